@@ -1,0 +1,43 @@
+# Every folder of the house is one library. Its include path is its own folder and, through the libraries that it
+# links, theirs: a header of a folder that is not linked is not found.
+function(kelvora_library name)
+    cmake_parse_arguments(ARG "" "" "SOURCES;LINK" ${ARGN})
+    add_library(${name} STATIC ${ARG_SOURCES})
+    target_include_directories(${name} PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
+    target_link_libraries(${name} PUBLIC ${ARG_LINK})
+    kelvora_warnings(${name})
+endfunction()
+
+function(kelvora_warnings target)
+    if(CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang")
+        target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wshadow -Wconversion
+                                                 -Wnon-virtual-dtor -Woverloaded-virtual)
+    endif()
+endfunction()
+
+# A Qt Test executable of one source file, run without a display. It links the libraries that it tests and no others.
+function(kelvora_test name)
+    cmake_parse_arguments(ARG "" "" "LINK" ${ARGN})
+    add_executable(${name} ${name}.cpp)
+    set_target_properties(${name} PROPERTIES AUTOMOC ON)
+    target_link_libraries(${name} PRIVATE ${ARG_LINK} Qt6::Test)
+    kelvora_warnings(${name})
+    add_test(NAME ${name} COMMAND ${name})
+    set_tests_properties(${name} PROPERTIES
+        TIMEOUT 300
+        LABELS inprocess
+        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QT_FONT_DPI=96;QT_STYLE_OVERRIDE=Fusion;LC_ALL=C.UTF-8")
+endfunction()
+
+# A test that a header of another folder cannot be included from this one.
+function(kelvora_forbidden_include name)
+    cmake_parse_arguments(ARG "" "FROM;HEADER" "" ${ARGN})
+    file(GENERATE OUTPUT ${CMAKE_CURRENT_BINARY_DIR}/${name}.cpp CONTENT "#include \"${ARG_HEADER}\"\n")
+    add_library(${name} OBJECT EXCLUDE_FROM_ALL ${CMAKE_CURRENT_BINARY_DIR}/${name}.cpp)
+    target_link_libraries(${name} PRIVATE ${ARG_FROM})
+    add_test(NAME ${name} COMMAND ${CMAKE_COMMAND} --build ${CMAKE_BINARY_DIR} --target ${name})
+    set_tests_properties(${name} PROPERTIES
+        LABELS inprocess
+        RUN_SERIAL ON
+        PASS_REGULAR_EXPRESSION "${ARG_HEADER}: No such file|${ARG_HEADER}' file not found")
+endfunction()
