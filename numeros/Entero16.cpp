@@ -1,0 +1,17 @@
+#include "Entero16.h"
+
+#include <cmath>
+
+namespace numeros {
+
+Entero16 Entero16::Redondeado(double valor)
+{
+    // The process never leaves the default rounding mode, in which nearbyint takes halves to the even neighbour.
+    const double entero = std::nearbyint(valor);
+    if (!(entero >= INT16_MIN && entero <= INT16_MAX)) {
+        throw Desbordamiento();
+    }
+    return static_cast<int>(entero);
+}
+
+} // namespace numeros
