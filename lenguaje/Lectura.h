@@ -1,0 +1,17 @@
+// Readings for the ear: a fraction in words, and the blank that makes a repeated text a new one.
+#pragma once
+
+#include "Numerales.h"
+
+#include <string>
+#include <string_view>
+
+namespace lenguaje {
+
+// "tres cuartos", "un medio": numerator and denominator in words, with an "s" behind unless `singular`.
+std::string FraccionEnLetras(double numerador, double denominador, bool singular, Variante variante);
+
+// `texto`, with one blank behind where the box that is to receive it holds exactly that text already.
+std::string ConBlancoSiRepite(std::string texto, std::string_view contenido);
+
+} // namespace lenguaje
