@@ -1,0 +1,66 @@
+#include "Control.h"
+
+#include "Strings.h"
+
+#include <cmath>
+
+namespace ui {
+
+Control::Control(const ControlDesign& design, QWidget& widget)
+    : m_design(design), m_widget(widget), m_place(design.place)
+{
+    widget.setObjectName(ObjectName(design.name, design.index));
+    widget.setAccessibleName(ToQString(design.says));
+    if (design.tab == noTab) {
+        widget.setFocusPolicy(Qt::NoFocus);
+    }
+}
+
+void Control::SetFocus()
+{
+    m_widget.setFocus();
+}
+
+void Control::Enabled(bool enabled)
+{
+    m_widget.setEnabled(enabled);
+}
+
+void Control::Move(const Place& place)
+{
+    m_place = place;
+    Scale(m_scale, m_origin);
+}
+
+void Control::Scale(double scale, const QPoint& origin)
+{
+    m_scale = scale;
+    m_origin = origin;
+    const QRect place = ToPixels(m_place, scale);
+    m_widget.setGeometry(place.translated(origin));
+    m_widget.setFont(Font());
+    if (m_design.coveredTop != 0 || m_design.coveredBottom != 0) {
+        const int top = ToPixels({0, 0, 0, m_design.coveredTop}, scale).height();
+        const int bottom = ToPixels({0, 0, 0, m_design.coveredBottom}, scale).height();
+        m_widget.setMask(QRect(0, top, place.width(), place.height() - top - bottom));
+    }
+}
+
+KeyResult Control::KeyDown(int, int)
+{
+    return KeyResult::Pass;
+}
+
+KeyResult Control::KeyPressed(int)
+{
+    return KeyResult::Pass;
+}
+
+QFont Control::Font() const
+{
+    QFont font(ToQString(m_design.font));
+    font.setPixelSize(std::max(1, static_cast<int>(std::lround(m_design.points * pixelsPerPoint * m_scale))));
+    return font;
+}
+
+} // namespace ui

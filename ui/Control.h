@@ -1,0 +1,54 @@
+// What all controls of a screen have in common.
+#pragma once
+
+#include "Design.h"
+#include "Keys.h"
+
+#include <QWidget>
+
+#include <string_view>
+
+namespace ui {
+
+// A handle on a widget, which belongs to the form's window as the handle belongs to the form.
+class Control
+{
+public:
+    // The design is a row of a constant table and outlives the control.
+    Control(const ControlDesign& design, QWidget& widget);
+    virtual ~Control() = default;
+    Control(const Control&) = delete;
+    Control& operator=(const Control&) = delete;
+
+    std::string_view Name() const { return m_design.name; }
+    int Index() const { return m_design.index; }
+    const ControlDesign& Design() const { return m_design; }
+    QWidget& Widget() const { return m_widget; }
+
+    void SetFocus();
+    void Enabled(bool enabled);
+
+    // Moves the control; in twips, inside what holds it.
+    void Move(const Place& place);
+
+    // Draws the control, its place and its type, `scale` times as large as designed. `origin` is the pixel from which
+    // its place is measured.
+    virtual void Scale(double scale, const QPoint& origin);
+
+    // The steps of a key press that come before the widget's own; what they swallow does not reach it.
+    virtual KeyResult KeyDown(int keyCode, int shift);
+    virtual KeyResult KeyPressed(int keyAscii);
+
+protected:
+    // The design's font in pixels at the present scale.
+    QFont Font() const;
+
+private:
+    const ControlDesign& m_design;
+    QWidget& m_widget;
+    Place m_place;
+    double m_scale = 1;
+    QPoint m_origin;
+};
+
+} // namespace ui

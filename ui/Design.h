@@ -1,0 +1,103 @@
+// A screen as data: its window, its controls and its menus. Form builds them.
+#pragma once
+
+#include "Look.h"
+
+#include <optional>
+#include <span>
+#include <string_view>
+
+namespace ui {
+
+inline constexpr int noIndex = -1;
+inline constexpr int noTab = -1;
+
+enum class Kind
+{
+    OneLine,
+    MultiLine,
+    Button,
+    Label,
+    Frame,
+    Line
+};
+enum class Typing
+{
+    Editable,
+    Locked
+}; // a locked box takes focus and caret, but no typing
+enum class Speaking
+{
+    Silent,
+    Spoken
+}; // of a spoken box, whatever the program writes to it is announced
+enum class Coloring
+{
+    Plain,
+    Selection
+}; // the desktop's colours for text boxes or for selected text
+enum class Alignment
+{
+    Left,
+    Center
+};
+
+struct ControlDesign
+{
+    Kind kind = Kind::OneLine;
+    std::string_view name = {};
+    int index = noIndex;
+    std::string_view text = {};  // initial text, or caption with "&" before the access key
+    std::string_view says = {};  // the accessible name; empty where the caption serves
+    Place place = {};            // inside the client area, or inside `frame`
+    int tab = noTab;             // position in the tab order
+    std::string_view frame = {}; // the object name of the frame that holds the control
+    Typing typing = Typing::Locked;
+    Speaking speaking = Speaking::Silent;
+    Coloring coloring = Coloring::Plain;
+    Alignment alignment = Alignment::Left;
+    std::optional<Color> color = {}; // the face of a button, the background of a frame
+    std::string_view font = "Arial";
+    double points = 12;
+    int coveredTop = 0; // twips that a neighbour in front covers, and in which nothing is painted
+    int coveredBottom = 0;
+};
+
+enum class Checking
+{
+    None,
+    Unchecked,
+    Checked
+};
+
+// Menus are listed as they are read: an entry of depth n + 1 belongs to the last one of depth n before it. Entries with
+// the same name and an index are one array, of which exactly one is checked.
+struct MenuDesign
+{
+    int depth = 0;
+    std::string_view name = {};
+    int index = noIndex;
+    std::string_view caption = {};
+    Checking checking = Checking::None;
+    int functionKey = 0; // 1 to 12 for F1 to F12
+};
+
+// What happens to the controls when the window changes its size.
+enum class Resizing
+{
+    Scale, // everything grows and shrinks by one factor, in the middle of the window
+    Own,   // the screen places its controls itself, in Form_Resize
+};
+
+struct FormDesign
+{
+    std::string_view name = {};
+    std::string_view caption = {};
+    int width = 0; // of the client area, in twips
+    int height = 0;
+    std::span<const ControlDesign> controls = {};
+    std::span<const MenuDesign> menus = {};
+    Resizing resizing = Resizing::Scale;
+};
+
+} // namespace ui

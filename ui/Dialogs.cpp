@@ -1,0 +1,70 @@
+#include "Dialogs.h"
+
+#include "Strings.h"
+
+#include <QApplication>
+#include <QInputDialog>
+#include <QMessageBox>
+#include <QPushButton>
+
+namespace ui {
+
+namespace {
+
+QString TitleOr(std::string_view title)
+{
+    return title.empty() ? QApplication::applicationName() : ToQString(title);
+}
+
+// Captions of our own, since Qt's Spanish ones come from a file that may be missing.
+QMessageBox::StandardButton Show(QMessageBox::Icon icon, std::string_view title, std::string_view text,
+                                 QMessageBox::StandardButtons buttons)
+{
+    QMessageBox box(icon, TitleOr(title), ToQString(text), buttons, QApplication::activeWindow());
+    box.setTextFormat(Qt::PlainText);
+    if (QAbstractButton* ok = box.button(QMessageBox::Ok)) {
+        ok->setText("Aceptar");
+    }
+    if (QAbstractButton* yes = box.button(QMessageBox::Yes)) {
+        yes->setText("&Sí");
+        box.button(QMessageBox::No)->setText("&No");
+        box.setEscapeButton(QMessageBox::No);
+    }
+    return static_cast<QMessageBox::StandardButton>(box.exec());
+}
+
+} // namespace
+
+void MsgBox(std::string_view text, std::string_view title)
+{
+    Show(QMessageBox::NoIcon, title, text, QMessageBox::Ok);
+}
+
+Answer MsgBoxYesNo(std::string_view question, std::string_view title)
+{
+    const auto buttons = QMessageBox::Yes | QMessageBox::No;
+    return Show(QMessageBox::Warning, title, question, buttons) == QMessageBox::Yes ? Answer::Yes : Answer::No;
+}
+
+void FatalBox(std::string_view text)
+{
+    Show(QMessageBox::Critical, {}, text, QMessageBox::Ok);
+}
+
+std::string InputBox(std::string_view prompt, std::string_view title, std::string_view initial)
+{
+    QInputDialog box(QApplication::activeWindow());
+    box.setWindowTitle(TitleOr(title));
+    box.setLabelText(ToQString(prompt));
+    box.setTextValue(ToQString(initial));
+    box.setOkButtonText("Aceptar");
+    box.setCancelButtonText("Cancelar");
+    return box.exec() == QDialog::Accepted ? box.textValue().toStdString() : std::string();
+}
+
+void Beep()
+{
+    QApplication::beep();
+}
+
+} // namespace ui

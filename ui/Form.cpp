@@ -1,0 +1,196 @@
+#include "Form.h"
+
+#include "Strings.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QMenuBar>
+#include <QScreen>
+
+#include <algorithm>
+
+namespace ui {
+
+namespace {
+
+std::unique_ptr<Control> Create(const ControlDesign& design, QWidget* parent)
+{
+    switch (design.kind) {
+    case Kind::OneLine:
+    case Kind::MultiLine:
+        return std::make_unique<TextBox>(design, parent);
+    case Kind::Button:
+        return std::make_unique<Button>(design, parent);
+    case Kind::Label:
+        return std::make_unique<Label>(design, parent);
+    case Kind::Frame:
+        return std::make_unique<Frame>(design, parent);
+    case Kind::Line:
+        return std::make_unique<Line>(design, parent);
+    }
+    return nullptr;
+}
+
+} // namespace
+
+Form::Form(const FormDesign& design) : m_design(design)
+{
+    setObjectName(ToQString(design.name));
+    setWindowTitle(ToQString(design.caption));
+    setAttribute(Qt::WA_DeleteOnClose);
+    setCentralWidget(new QWidget);
+    centralWidget()->setMinimumSize(1, 1);
+    BuildControls();
+    ChainTabOrder();
+    menuBar()->setNativeMenuBar(false);
+    m_menuItems = BuildMenus(*menuBar(), design.menus);
+    centralWidget()->installEventFilter(this);
+}
+
+Form::~Form() = default;
+
+void Form::Open(Modality modality)
+{
+    setWindowModality(modality == Modality::Modal ? Qt::ApplicationModal : Qt::NonModal);
+    Form_Load();
+    const auto first = std::ranges::find_if(m_tabStops, [](const QWidget* stop) { return stop->isEnabled(); });
+    if (focusWidget() == nullptr && first != m_tabStops.end()) {
+        (*first)->setFocus();
+    }
+    const QSize wanted = ToPixels({0, 0, m_design.width, m_design.height}, 1).size();
+    centralWidget()->setFixedSize(wanted); // so that the window becomes this size and its menu bar
+    adjustSize();
+    centralWidget()->setMinimumSize(1, 1);
+    centralWidget()->setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+    resize(size().boundedTo(screen()->availableSize()));
+    show();
+}
+
+void Form::BringForward()
+{
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    show();
+    raise();
+    activateWindow();
+}
+
+KeyResult Form::Form_KeyDown(int, int)
+{
+    return KeyResult::Pass;
+}
+
+int Form::InnerWidth() const
+{
+    return centralWidget()->width() * twipsPerPixel;
+}
+
+int Form::InnerHeight() const
+{
+    return centralWidget()->height() * twipsPerPixel;
+}
+
+const Control* Form::ActiveControl() const
+{
+    return ControlOf(focusWidget());
+}
+
+bool Form::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == centralWidget() && event->type() == QEvent::Resize) {
+        Arrange();
+    }
+    Control* control = ControlOf(watched);
+    KeyResult result = KeyResult::Pass;
+    if (control != nullptr && event->type() == QEvent::KeyPress) {
+        result = KeyPressed(*control, *static_cast<QKeyEvent*>(event));
+    } else if (control != nullptr && event->type() == QEvent::InputMethod) {
+        result = Committed(*control, static_cast<QInputMethodEvent*>(event)->commitString());
+    }
+    return result == KeyResult::Swallow || QMainWindow::eventFilter(watched, event);
+}
+
+void Form::BuildControls()
+{
+    for (const ControlDesign& design : m_design.controls) {
+        QWidget* parent = centralWidget();
+        if (!design.frame.empty()) {
+            parent = parent->findChild<QWidget*>(ToQString(design.frame));
+        }
+        m_controls.push_back(Create(design, parent));
+        m_controls.back()->Widget().installEventFilter(this);
+    }
+}
+
+void Form::ChainTabOrder()
+{
+    std::vector<const Control*> ordered;
+    for (const std::unique_ptr<Control>& control : m_controls) {
+        if (control->Design().tab != noTab) {
+            ordered.push_back(control.get());
+        }
+    }
+    std::ranges::sort(ordered, {}, [](const Control* control) { return control->Design().tab; });
+    QLabel* label = nullptr;
+    for (const Control* control : ordered) {
+        if (label != nullptr) {
+            label->setBuddy(&control->Widget());
+        }
+        label = qobject_cast<QLabel*>(&control->Widget());
+        if (label == nullptr) {
+            m_tabStops.push_back(&control->Widget());
+        }
+    }
+    for (std::size_t i = 1; i < m_tabStops.size(); ++i) {
+        setTabOrder(m_tabStops[i - 1], m_tabStops[i]);
+    }
+}
+
+void Form::Arrange()
+{
+    if (m_design.resizing == Resizing::Own) {
+        Form_Resize();
+        return;
+    }
+    const QSize size = centralWidget()->size();
+    const double scale = twipsPerPixel * std::min(static_cast<double>(size.width()) / m_design.width,
+                                                  static_cast<double>(size.height()) / m_design.height);
+    const QSize drawn = ToPixels({0, 0, m_design.width, m_design.height}, scale).size();
+    const QPoint centred((size.width() - drawn.width()) / 2, (size.height() - drawn.height()) / 2);
+    for (const std::unique_ptr<Control>& control : m_controls) {
+        control->Scale(scale, control->Design().frame.empty() ? centred : QPoint());
+    }
+}
+
+KeyResult Form::KeyPressed(Control& control, const QKeyEvent& event)
+{
+    const int character = KeyAsciiOf(event);
+    // A finger that stays on Enter must not check the answer, or skip the exercise, many times.
+    if (character == KeyAscii::Enter && event.isAutoRepeat()) {
+        return KeyResult::Swallow;
+    }
+    const int code = KeyCodeOf(event);
+    const int shift = ShiftMaskOf(event);
+    if (Form_KeyDown(code, shift) == KeyResult::Swallow || control.KeyDown(code, shift) == KeyResult::Swallow) {
+        return KeyResult::Swallow;
+    }
+    return character != 0 ? control.KeyPressed(character) : KeyResult::Pass;
+}
+
+KeyResult Form::Committed(Control& control, const QString& text)
+{
+    for (const QChar character : text) {
+        if (control.KeyPressed(character.unicode()) == KeyResult::Swallow) {
+            return KeyResult::Swallow;
+        }
+    }
+    return KeyResult::Pass;
+}
+
+Control* Form::ControlOf(const QObject* widget) const
+{
+    const auto found = std::ranges::find_if(
+        m_controls, [widget](const std::unique_ptr<Control>& control) { return &control->Widget() == widget; });
+    return found == m_controls.end() ? nullptr : found->get();
+}
+
+} // namespace ui

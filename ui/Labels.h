@@ -1,0 +1,50 @@
+// Controls that are only looked at: labels, frames and lines.
+#pragma once
+
+#include "Control.h"
+
+#include <QGroupBox>
+#include <QLabel>
+
+namespace ui {
+
+// A label's access key moves the focus to the control that follows the label in the tab order.
+class Label final : public Control
+{
+public:
+    Label(const ControlDesign& design, QWidget* parent);
+
+    void Caption(std::string_view caption);
+
+private:
+    Label(const ControlDesign& design, QLabel* label);
+
+    QLabel& m_label;
+};
+
+// A box with a caption round other controls. A coloured one has the colour as background and its caption in black.
+class Frame final : public Control
+{
+public:
+    Frame(const ControlDesign& design, QWidget* parent);
+};
+
+// A horizontal or vertical bar that fills its place.
+class LineWidget final : public QWidget
+{
+    Q_OBJECT
+
+public:
+    using QWidget::QWidget;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+};
+
+class Line final : public Control
+{
+public:
+    Line(const ControlDesign& design, QWidget* parent) : Control(design, *new LineWidget(parent)) {}
+};
+
+} // namespace ui

@@ -1,0 +1,49 @@
+// What the screens look like: twips and pixels, colours that can be read, type that fits its box.
+#pragma once
+
+#include <QColor>
+#include <QFont>
+#include <QRect>
+#include <QString>
+
+#include <cstdint>
+
+namespace ui {
+
+// A position inside a screen's client area or a length, in twips (1/1440 inch).
+struct Place
+{
+    int left = 0;
+    int top = 0;
+    int width = 0;
+    int height = 0;
+};
+
+inline constexpr int twipsPerPixel = 15; // at 96 dots per inch
+inline constexpr double pixelsPerPoint = 96.0 / 72.0;
+
+// Pixels of a place when everything is drawn `scale` times as large. Edges are rounded, not sizes, so that neighbours
+// stay neighbours.
+QRect ToPixels(const Place& place, double scale);
+
+// A colour as the screens write it, 0xBBGGRR.
+enum class Color : std::uint32_t
+{
+    Red = 0x0000FF,
+    Green = 0x00FF00,
+    Yellow = 0x00FFFF,
+    Cyan = 0xFFFF00
+};
+QColor ToQColor(Color color);
+
+// Contrast of two colours after WCAG: 1 (none) to 21 (black on white).
+double Contrast(const QColor& a, const QColor& b);
+
+// `wanted`, or black or white where that can be read better and `wanted` has less than 4.5:1 on `background`.
+QColor ReadableOn(const QColor& background, const QColor& wanted);
+
+// `font` in the largest size from its own down to `smallest` pixels in which `text` fits into `area`, drawn with Qt
+// text `flags`; in the smallest where it fits in none.
+QFont Fitting(QFont font, const QString& text, const QSize& area, int flags, int smallest);
+
+} // namespace ui

@@ -1,0 +1,72 @@
+#include "Menu.h"
+
+#include "Strings.h"
+
+#include <QActionGroup>
+#include <QMenu>
+#include <QMenuBar>
+
+namespace ui {
+
+namespace {
+
+// The group of the entry's array: that of the entry before it where both have one name.
+QActionGroup* GroupOf(const MenuDesign& design, QActionGroup* previous, QMenuBar& bar)
+{
+    if (previous != nullptr && previous->objectName() == ToQString(design.name)) {
+        return previous;
+    }
+    auto* group = new QActionGroup(&bar);
+    group->setObjectName(ToQString(design.name));
+    return group;
+}
+
+} // namespace
+
+MenuItem::MenuItem(const MenuDesign& design, QAction& action) : m_design(design), m_action(action)
+{
+    QObject::connect(&action, &QAction::triggered, &action, [this] {
+        if (OnClick) {
+            OnClick(Index());
+        }
+    });
+}
+
+std::vector<std::unique_ptr<MenuItem>> BuildMenus(QMenuBar& bar, std::span<const MenuDesign> designs)
+{
+    std::vector<std::unique_ptr<MenuItem>> items;
+    std::vector<QWidget*> parents{&bar}; // by depth
+    QActionGroup* group = nullptr;
+    for (std::size_t i = 0; i < designs.size(); ++i) {
+        const MenuDesign& design = designs[i];
+        const auto depth = static_cast<std::size_t>(design.depth);
+        const bool hasEntries = i + 1 < designs.size() && designs[i + 1].depth > design.depth;
+        parents.resize(depth + 1);
+        QAction* action = nullptr;
+        if (hasEntries) {
+            auto* menu = new QMenu(ToQString(design.caption), parents[depth]);
+            action = menu->menuAction();
+            parents.push_back(menu);
+        } else {
+            action = new QAction(ToQString(design.caption), &bar);
+        }
+        action->setObjectName(ObjectName(design.name, design.index));
+        action->setMenuRole(QAction::NoRole); // macOS would move "Salir" and "Acerca de..." elsewhere
+        if (design.checking != Checking::None) {
+            group = GroupOf(design, group, bar);
+            action->setCheckable(true);
+            action->setActionGroup(group);
+            action->setChecked(design.checking == Checking::Checked);
+        }
+        if (design.functionKey != 0) {
+            action->setShortcut(Qt::Key_F1 + design.functionKey - 1);
+        }
+        parents[depth]->addAction(action);
+        if (!hasEntries) {
+            items.push_back(std::make_unique<MenuItem>(design, *action));
+        }
+    }
+    return items;
+}
+
+} // namespace ui

@@ -1,0 +1,32 @@
+// The widget of a text box of several lines. Qt folds every line end into one; here CR, LF and both together stay
+// apart.
+#pragma once
+
+#include "Design.h"
+#include "EditWidget.h"
+
+#include <QPlainTextEdit>
+
+namespace ui {
+
+class MultiLineEdit final : public QPlainTextEdit, public EditWidget
+{
+    Q_OBJECT
+
+public:
+    MultiLineEdit(const ControlDesign& design, QWidget* parent);
+
+    QString ExactText() const override;
+    void SetExactText(const QString& text) override;
+    int SelStart() const override;
+    int SelLength() const override;
+    void Select(int start, int length) override;
+
+protected:
+    void focusInEvent(QFocusEvent* event) override;
+
+private:
+    bool m_writing = false;
+};
+
+} // namespace ui

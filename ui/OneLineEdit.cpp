@@ -1,0 +1,136 @@
+#include "OneLineEdit.h"
+
+#include <QApplication>
+#include <QFocusEvent>
+#include <QPainter>
+
+namespace ui {
+
+namespace {
+
+constexpr int smallestType = 9; // pixels
+constexpr int smallestOnOneLine = 11;
+constexpr int qtMargin = 2;   // what Qt leaves free at the left and right of the text
+constexpr int leftMargin = 5; // of texts that are not centred
+constexpr int wrapping = Qt::AlignLeft | Qt::AlignVCenter | Qt::TextWordWrap;
+
+} // namespace
+
+OneLineEdit::OneLineEdit(const ControlDesign& design, QWidget* parent) : QLineEdit(parent), m_coloring(design.coloring)
+{
+    setFrame(false); // the edge is painted here: Qt's would leave too little room for five digits
+    setReadOnly(design.typing == Typing::Locked);
+    setAlignment(design.alignment == Alignment::Center ? Qt::AlignCenter : Qt::AlignLeft | Qt::AlignVCenter);
+    Color();
+    connect(this, &QLineEdit::textChanged, this, &OneLineEdit::Fit);
+    connect(this, &QLineEdit::textEdited, this, [this] {
+        if (edited) {
+            edited();
+        }
+    });
+}
+
+void OneLineEdit::SetExactText(const QString& text)
+{
+    setText(text);
+    setCursorPosition(0);
+}
+
+void OneLineEdit::SetFullFont(const QFont& font)
+{
+    m_fullFont = font;
+    Fit();
+}
+
+void OneLineEdit::changeEvent(QEvent* event)
+{
+    QLineEdit::changeEvent(event);
+    if (event->type() == QEvent::ApplicationPaletteChange) {
+        Color();
+    }
+}
+
+void OneLineEdit::focusInEvent(QFocusEvent* event)
+{
+    // Qt selects the whole text of a box that is reached by Tab, and every step would be read with "selected".
+    QFocusEvent withoutSelecting(QEvent::FocusIn, Qt::OtherFocusReason);
+    QLineEdit::focusInEvent(&withoutSelecting);
+    if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason) {
+        setCursorPosition(0);
+    }
+}
+
+void OneLineEdit::paintEvent(QPaintEvent* event)
+{
+    if (m_wraps && !hasFocus()) {
+        QPainter painter(this);
+        painter.fillRect(rect(), palette().base());
+        painter.setFont(m_wrappedFont);
+        painter.setPen(palette().color(QPalette::Text));
+        painter.drawText(TextArea(), wrapping, text());
+    } else {
+        QLineEdit::paintEvent(event);
+    }
+    QPainter painter(this);
+    if (hasFocus() && isReadOnly() && !hasSelectedText()) {
+        const QRect caret = cursorRect(); // of a locked box Qt shows no caret
+        painter.fillRect(QRect(caret.center().x(), caret.top(), 1, caret.height()), palette().color(QPalette::Text));
+    }
+    const QRect area = mask().isEmpty() ? rect() : mask().boundingRect();
+    const int width = hasFocus() ? 2 : 1;
+    QColor edge = palette().color(QPalette::WindowText);
+    edge.setAlphaF(isReadOnly() && !hasFocus() ? 0.35F : 1.0F);
+    painter.setPen(QPen(edge, width, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+    const int inset = width / 2;
+    painter.drawRect(area.adjusted(inset, inset, -1, -1));
+}
+
+void OneLineEdit::resizeEvent(QResizeEvent* event)
+{
+    QLineEdit::resizeEvent(event);
+    Fit();
+}
+
+void OneLineEdit::Color()
+{
+    QPalette colors = QApplication::palette();
+    if (m_coloring == Coloring::Selection) {
+        const QColor background = colors.color(QPalette::Highlight);
+        const QColor type = ReadableOn(background, colors.color(QPalette::HighlightedText));
+        colors.setColor(QPalette::Base, background);
+        colors.setColor(QPalette::Text, type);
+        colors.setColor(QPalette::Highlight, type);
+        colors.setColor(QPalette::HighlightedText, background);
+    } else if (isReadOnly()) {
+        colors.setColor(QPalette::Base, colors.color(QPalette::Window));
+        colors.setColor(QPalette::Text, colors.color(QPalette::WindowText));
+    }
+    setPalette(colors);
+}
+
+QRect OneLineEdit::TextArea() const
+{
+    const QRect area = mask().isEmpty() ? rect() : mask().boundingRect();
+    const int side = alignment().testFlag(Qt::AlignHCenter) ? qtMargin : leftMargin;
+    return area.adjusted(side, 1, -side, -1);
+}
+
+void OneLineEdit::Fit()
+{
+    if (m_fullFont.pixelSize() <= 0) {
+        return; // not placed yet
+    }
+    const QRect area = TextArea();
+    const QSize room = area.size() - QSize(1, 0); // for the caret
+    const QFont onOneLine = Fitting(m_fullFont, text(), room, Qt::TextSingleLine, smallestOnOneLine);
+    const bool fits = QFontMetrics(onOneLine).horizontalAdvance(text()) <= room.width();
+    m_wraps = !fits && isReadOnly();
+    if (m_wraps) {
+        m_wrappedFont = Fitting(m_fullFont, text(), room, wrapping, smallestType);
+    }
+    setFont(fits || isReadOnly() ? onOneLine : Fitting(m_fullFont, text(), room, Qt::TextSingleLine, smallestType));
+    setTextMargins(area.left() - qtMargin, area.top(), area.left() - qtMargin, height() - 1 - area.bottom());
+    update();
+}
+
+} // namespace ui

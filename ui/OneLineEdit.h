@@ -1,0 +1,45 @@
+// The widget of a text box of one line. Its type shrinks until the text fits; the text of a locked box that is too long
+// even so is shown on several lines while the box does not have the focus.
+#pragma once
+
+#include "Design.h"
+#include "EditWidget.h"
+
+#include <QLineEdit>
+
+namespace ui {
+
+class OneLineEdit final : public QLineEdit, public EditWidget
+{
+    Q_OBJECT
+
+public:
+    OneLineEdit(const ControlDesign& design, QWidget* parent);
+
+    QString ExactText() const override { return text(); }
+    void SetExactText(const QString& text) override;
+    int SelStart() const override { return hasSelectedText() ? selectionStart() : cursorPosition(); }
+    int SelLength() const override { return static_cast<int>(selectedText().size()); }
+    void Select(int start, int length) override { setSelection(start, length); }
+
+    // The type that the box has when its text is short.
+    void SetFullFont(const QFont& font);
+
+protected:
+    void changeEvent(QEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void Color();
+    void Fit();
+    QRect TextArea() const;
+
+    const Coloring m_coloring;
+    QFont m_fullFont;
+    QFont m_wrappedFont;
+    bool m_wraps = false;
+};
+
+} // namespace ui

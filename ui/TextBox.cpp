@@ -1,0 +1,89 @@
+#include "TextBox.h"
+
+#include "Announcer.h"
+#include "MultiLineEdit.h"
+#include "OneLineEdit.h"
+#include "Strings.h"
+#include "Val.h"
+
+namespace ui {
+
+namespace {
+
+template <class Widget>
+std::pair<QWidget*, EditWidget*> Create(const ControlDesign& design, QWidget* parent)
+{
+    auto* widget = new Widget(design, parent);
+    return {widget, widget};
+}
+
+} // namespace
+
+TextBox::TextBox(const ControlDesign& design, QWidget* parent)
+    : TextBox(design, design.kind == Kind::MultiLine ? Create<MultiLineEdit>(design, parent)
+                                                     : Create<OneLineEdit>(design, parent))
+{
+}
+
+TextBox::TextBox(const ControlDesign& design, std::pair<QWidget*, EditWidget*> widget)
+    : Control(design, *widget.first), m_edit(*widget.second)
+{
+    m_edit.SetExactText(ToQString(design.text));
+    m_edit.edited = [this] {
+        Changed();
+    };
+}
+
+std::string TextBox::Text() const
+{
+    return m_edit.ExactText().toStdString();
+}
+
+void TextBox::Text(std::string_view text)
+{
+    const QString value = ToQString(text);
+    if (value != m_edit.ExactText()) {
+        m_edit.SetExactText(value);
+        Changed();
+    }
+    if (Design().speaking == Speaking::Spoken) {
+        Announcer::Instance().Say(Widget(), value);
+    }
+}
+
+void TextBox::Text(int number)
+{
+    Text(std::to_string(number));
+}
+
+double TextBox::Number() const
+{
+    return numeros::Val(Text());
+}
+
+void TextBox::Scale(double scale, const QPoint& origin)
+{
+    Control::Scale(scale, origin);
+    if (auto* oneLine = qobject_cast<OneLineEdit*>(&Widget())) {
+        oneLine->SetFullFont(Font());
+    }
+}
+
+KeyResult TextBox::KeyDown(int keyCode, int shift)
+{
+    return OnKeyDown ? OnKeyDown(Index(), keyCode, shift) : KeyResult::Pass;
+}
+
+KeyResult TextBox::KeyPressed(int keyAscii)
+{
+    return OnKeyPress ? OnKeyPress(Index(), keyAscii) : KeyResult::Pass;
+}
+
+void TextBox::Changed() const
+{
+    if (OnChange) {
+        OnChange(Index());
+    }
+}
+
+} // namespace ui

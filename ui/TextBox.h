@@ -1,0 +1,46 @@
+// A text box. It holds its text exactly, and what the program writes to a spoken one is announced.
+#pragma once
+
+#include "Control.h"
+#include "EditWidget.h"
+
+namespace ui {
+
+class TextBox final : public Control
+{
+public:
+    TextBox(const ControlDesign& design, QWidget* parent);
+
+    // UTF-8, a line end being CR and LF.
+    std::string Text() const;
+
+    // Runs Change at once where the text is another one. A spoken box announces the text even if it is the same; an
+    // empty text says nothing.
+    void Text(std::string_view text);
+    void Text(int number);
+
+    // The number that the text begins with, 0 where it begins with none.
+    double Number() const;
+
+    // Start and length of the selection in characters from 0; the caret where nothing is selected.
+    int SelStart() const { return m_edit.SelStart(); }
+    int SelLength() const { return m_edit.SelLength(); }
+    void Select(int start, int length) { m_edit.Select(start, length); }
+
+    void Scale(double scale, const QPoint& origin) override;
+    KeyResult KeyDown(int keyCode, int shift) override;
+    KeyResult KeyPressed(int keyAscii) override;
+
+    // Handlers, with the box's index in its array.
+    std::function<KeyResult(int Index, int KeyCode, int Shift)> OnKeyDown;
+    std::function<KeyResult(int Index, int KeyAscii)> OnKeyPress;
+    std::function<void(int Index)> OnChange;
+
+private:
+    TextBox(const ControlDesign& design, std::pair<QWidget*, EditWidget*> widget);
+    void Changed() const;
+
+    EditWidget& m_edit;
+};
+
+} // namespace ui
