@@ -1,0 +1,29 @@
+// The main menu: a button for each exercise screen, one to end, and the credits. It holds no state but which screens
+// are open.
+#pragma once
+
+#include "Form.h"
+
+#include <QPointer>
+
+#include <array>
+
+namespace app {
+
+class Form1 final : public ui::Form
+{
+public:
+    Form1();
+
+private:
+    void Form_Load() override;
+    void Form_Resize() override;
+    void Command1_Click(int Index);
+    void MnuAce_Click();
+
+    const ui::ControlArray<ui::Button> Command1 = All<ui::Button>("Command1");
+
+    std::array<QPointer<ui::Form>, 11> m_open; // by the button's index
+};
+
+} // namespace app
