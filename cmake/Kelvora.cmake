@@ -39,5 +39,6 @@ function(kelvora_forbidden_include name)
     set_tests_properties(${name} PROPERTIES
         LABELS inprocess
         RUN_SERIAL ON
+        ENVIRONMENT "LC_ALL=C"
         PASS_REGULAR_EXPRESSION "${ARG_HEADER}: No such file|${ARG_HEADER}' file not found")
 endfunction()

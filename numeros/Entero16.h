@@ -2,7 +2,6 @@
 // -32768..32767 throws Desbordamiento, which only the event dispatch catches, to end the program.
 #pragma once
 
-#include <compare>
 #include <cstdint>
 #include <exception>
 
@@ -38,7 +37,7 @@ public:
     friend constexpr Entero16 operator-(Entero16 a, Entero16 b) { return a.m_valor - b.m_valor; }
     friend constexpr Entero16 operator*(Entero16 a, Entero16 b) { return a.m_valor * b.m_valor; }
     friend constexpr Entero16 operator/(Entero16 a, Entero16 b) { return a.m_valor / b.m_valor; } // `b` is not 0
-    friend constexpr auto operator<=>(Entero16, Entero16) = default;
+    friend constexpr bool operator==(Entero16 a, Entero16 b) { return a.m_valor == b.m_valor; }
 
 private:
     static constexpr std::int16_t Comprobado(int valor)

@@ -16,7 +16,6 @@ Announcer* instance = nullptr;
 Announcer::Announcer()
 {
     instance = this;
-    connect(qApp, &QApplication::focusChanged, this, &Announcer::FocusChanged);
 }
 
 Announcer::~Announcer()
@@ -29,16 +28,6 @@ Announcer& Announcer::Instance()
     return *instance;
 }
 
-void Announcer::FocusChanged()
-{
-    // The focus event that the reader gets follows this signal: what waits to be said lets it pass.
-    if (!m_messages.empty() && !m_focusIsMoving) {
-        m_focusIsMoving = true;
-        QMetaObject::invokeMethod(
-            this, [this] { m_focusIsMoving = false; }, Qt::QueuedConnection);
-    }
-}
-
 void Announcer::Say(QWidget& source, const QString& text)
 {
     std::erase_if(m_messages, [&source](const Message& message) { return message.source == &source; });
@@ -47,10 +36,27 @@ void Announcer::Say(QWidget& source, const QString& text)
     }
 }
 
-void Announcer::EventEnded()
+void Announcer::EventEnded(QEvent::Type type)
+{
+    switch (type) {
+    case QEvent::FocusAboutToChange:
+    case QEvent::FocusOut:
+    case QEvent::InputMethodQuery:
+        break; // parts of a focus change
+    case QEvent::FocusIn:
+        // The focus event that the reader gets is sent right after this one: what waits to be said lets it pass.
+        QMetaObject::invokeMethod(this, &Announcer::Flush, Qt::QueuedConnection);
+        break;
+    default:
+        Flush();
+        break;
+    }
+}
+
+void Announcer::Flush()
 {
     const QWidget* focus = QApplication::focusWidget();
-    if (m_messages.empty() || m_focusIsMoving || focus == nullptr) {
+    if (m_messages.empty() || focus == nullptr) {
         return;
     }
     QWidget* source = nullptr;

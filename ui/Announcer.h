@@ -4,6 +4,7 @@
 // off by it. While the window is not the active one (a screen that opens, a message box in front) they are held back.
 #pragma once
 
+#include <QEvent>
 #include <QObject>
 #include <QPointer>
 #include <QString>
@@ -27,11 +28,11 @@ public:
     // An empty text takes that back.
     void Say(QWidget& source, const QString& text);
 
-    // To be called when an event has been handled with all that it brought about.
-    void EventEnded();
+    // To be called when an event of this type has been handled with all that it brought about.
+    void EventEnded(QEvent::Type type);
 
 private:
-    void FocusChanged();
+    void Flush();
 
     struct Message
     {
@@ -40,7 +41,6 @@ private:
     };
 
     std::vector<Message> m_messages;
-    bool m_focusIsMoving = false;
 };
 
 } // namespace ui

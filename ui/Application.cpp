@@ -24,6 +24,7 @@ Application::Application(int& argc, char** argv) : QApplication(argc, argv)
 
 bool Application::notify(QObject* receiver, QEvent* event)
 {
+    const QEvent::Type type = event->type(); // the event may be gone when it has been handled
     bool handled = true;
     ++m_depth;
     try {
@@ -34,7 +35,7 @@ bool Application::notify(QObject* receiver, QEvent* event)
     }
     --m_depth;
     if (m_depth == 0) {
-        m_announcer.EventEnded();
+        m_announcer.EventEnded(type);
     }
     return handled;
 }

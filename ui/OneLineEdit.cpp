@@ -128,7 +128,11 @@ void OneLineEdit::Fit()
     if (m_wraps) {
         m_wrappedFont = Fitting(m_fullFont, text(), room, wrapping, smallestType);
     }
-    setFont(fits || isReadOnly() ? onOneLine : Fitting(m_fullFont, text(), room, Qt::TextSingleLine, smallestType));
+    const QFont fitting =
+        fits || isReadOnly() ? onOneLine : Fitting(m_fullFont, text(), room, Qt::TextSingleLine, smallestType);
+    if (fitting != font()) {
+        setFont(fitting);
+    }
     setTextMargins(area.left() - qtMargin, area.top(), area.left() - qtMargin, height() - 1 - area.bottom());
     update();
 }

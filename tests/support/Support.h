@@ -1,0 +1,74 @@
+// What the tests of windows share: a main function with the program's own application, a pupil's keys, and an ear for
+// what goes out to the screen reader.
+#pragma once
+
+#include <QAccessible>
+#include <QStringList>
+#include <QTest>
+#include <QWidget>
+
+#include <functional>
+
+namespace support {
+
+// Runs the cases of `test` in the program's application, on a desktop with a screen reader.
+int Run(QObject& test, int argc, char** argv);
+
+// Records, while it lives, what a screen reader is told: "FOCUS name" when the focus moves, "SAY text" for
+// announcements.
+class Ear
+{
+public:
+    Ear();
+    ~Ear();
+    Ear(const Ear&) = delete;
+    Ear& operator=(const Ear&) = delete;
+
+    // All that was told since the last call, once everything pending has been handled.
+    QStringList Take();
+
+    // The announcements among it, without "SAY ".
+    QStringList TakeSaid();
+
+private:
+    static void Hear(QAccessibleEvent* event);
+
+    static QStringList s_heard;
+};
+
+// Handles everything that is pending.
+void Settle();
+
+// Waits until `window` is active and has settled; false where it does not become so.
+bool WaitActive(QWidget& window);
+
+// Presses keys on whatever has the focus.
+void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+void Type(const QString& text);
+
+// The object name of the widget that has the focus, or "-".
+QString Focus();
+
+// Runs `answer` when a modal dialog has opened, with the dialog, and then what `action` does to open it. Fails the test
+// where none opens.
+void WithDialog(const std::function<void()>& action, const std::function<void(QWidget& dialog)>& answer);
+
+// The child of this name, which must exist.
+template <class T>
+T& Child(const QWidget& window, const QString& name)
+{
+    auto* child = window.findChild<T*>(name);
+    if (child == nullptr) {
+        qFatal("no %s", qPrintable(name));
+    }
+    return *child;
+}
+
+} // namespace support
+
+#define KELVORA_TEST_MAIN(Test)                                                                                        \
+    int main(int argc, char** argv)                                                                                    \
+    {                                                                                                                  \
+        Test test;                                                                                                     \
+        return support::Run(test, argc, argv);                                                                         \
+    }
