@@ -4,6 +4,7 @@
 #include "Dialogs.h"
 #include "Entero16.h"
 
+#include <QKeyEvent>
 #include <QLibraryInfo>
 #include <QLocale>
 
@@ -25,6 +26,9 @@ Application::Application(int& argc, char** argv) : QApplication(argc, argv)
 bool Application::notify(QObject* receiver, QEvent* event)
 {
     const QEvent::Type type = event->type(); // the event may be gone when it has been handled
+    if (IsLateAlt(*event)) {
+        return true;
+    }
     bool handled = true;
     ++m_depth;
     try {
@@ -38,6 +42,23 @@ bool Application::notify(QObject* receiver, QEvent* event)
         m_announcer.EventEnded(type);
     }
     return handled;
+}
+
+// With a screen reader on, Qt asks it about each key press and delivers the key again later, but access keys at once: of
+// Alt+S the S can come before the Alt. The menu bar would take that Alt for one pressed alone, and go to the menus at its
+// release; a menu just opened by its access key would close.
+bool Application::IsLateAlt(const QEvent& event)
+{
+    if (event.type() == QEvent::Shortcut) {
+        m_accessKeyUsed = true;
+    }
+    if (event.type() != QEvent::KeyPress || static_cast<const QKeyEvent&>(event).key() != Qt::Key_Alt) {
+        return false;
+    }
+    if (event.spontaneous()) { // the finger's own press, not its second delivery
+        m_accessKeyUsed = false;
+    }
+    return m_accessKeyUsed;
 }
 
 void End()

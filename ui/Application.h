@@ -19,6 +19,9 @@ public:
     bool notify(QObject* receiver, QEvent* event) override;
 
 private:
+    bool IsLateAlt(const QEvent& event);
+
+    bool m_accessKeyUsed = false;
     int m_depth = 0;
     Announcer m_announcer;
     QTranslator m_translator;

@@ -1,0 +1,201 @@
+"""A desktop without screen or loudspeaker on which a real screen reader runs, and a pupil's hands and ears.
+
+The voice is a transcript: Speech Dispatcher passes each text to a shell command that writes it down when the voice
+begins, takes some time for it, and notes when it has come to the end. A text that is cut off has no end.
+"""
+
+import os
+import pathlib
+import shutil
+import signal
+import subprocess
+import sys
+import tempfile
+import time
+
+LIMIT = 30  # seconds to wait for anything at all; only a failure takes that long
+READY = "END Lector de pantalla activado."
+QUIET = 0.5  # seconds without a new utterance after which the reader has finished
+
+SPEECHD_CONF = """\
+LogLevel 3
+Timeout 0
+CommunicationMethod "unix_socket"
+AudioOutputMethod "alsa"
+DefaultRate 0
+DefaultLanguage "es"
+AddModule "transcript" "sd_generic" "transcript.conf"
+DefaultModule transcript
+Include "clients/*.conf"
+"""
+
+# One text is one line: the delimiters at which the module would cut it never occur.
+VOICE_CONF = """\
+GenericExecuteSynth "{voice} \\'$DATA\\'"
+GenericMaxChunkLength 100000
+GenericDelimiters "\\f"
+GenericPunctNone "none"
+GenericRecodeFallback "?"
+GenericLanguage "es" "es" "utf-8"
+GenericLanguage "en" "en" "utf-8"
+AddVoice "es" "MALE1" "es"
+AddVoice "en" "MALE1" "en"
+Debug 0
+"""
+
+VOICE = """\
+#!/bin/sh
+text=$(printf '%s' "$1" | tr '\\n' '|')
+printf 'START %s\\n' "$text" >> '{transcript}'
+sleep 0.1
+printf 'END %s\\n' "$text" >> '{transcript}'
+"""
+
+ASOUNDRC = "pcm.!default { type null }\n"
+
+
+class NotReady(Exception):
+    """The desktop or its screen reader did not start."""
+
+
+def wait_for(condition, what, limit=LIMIT):
+    end = time.monotonic() + limit
+    while time.monotonic() < end:
+        value = condition()
+        if value:
+            return value
+        time.sleep(0.02)
+    raise NotReady(f"waited {limit} s for {what}")
+
+
+class Session:
+    """Display, window manager, accessibility bus, voice and reader; `run` starts a program among them."""
+
+    def __init__(self):
+        self.home = pathlib.Path(tempfile.mkdtemp(prefix="lector-"))
+        self.transcript = self.home / "transcript"
+        self.orca_log = self.home / "orca.log"
+        self._children = []
+        self._read = 0
+        try:
+            self._start_desktop()
+            self._start_reader()
+        except BaseException:
+            self.close(keep=True)
+            raise
+
+    def _start(self, name, *command, **options):
+        log = open(self.home / f"{name}.log", "wb")
+        child = subprocess.Popen(command, env=self.env, stdin=subprocess.DEVNULL, stdout=log, stderr=log,
+                                 start_new_session=True, **options)
+        self._children.append(child)
+        return child
+
+    def _start_desktop(self):
+        self.env = {key: os.environ[key] for key in ("PATH", "DBUS_SESSION_BUS_ADDRESS", "ASAN_OPTIONS") if key in os.environ}
+        runtime = self.home / "runtime"
+        runtime.mkdir(mode=0o700)
+        locales = self.home / "locale"
+        locales.mkdir()
+        subprocess.run(["localedef", "-i", "es_ES", "-f", "UTF-8", locales / "es_ES.UTF-8"], check=True)
+        self.env |= {"HOME": str(self.home), "XDG_RUNTIME_DIR": str(runtime), "LOCPATH": str(locales),
+                     "LANG": "es_ES.UTF-8", "LANGUAGE": "es", "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1",
+                     "QT_ACCESSIBILITY": "1", "QT_QPA_PLATFORM": "xcb", "GTK_MODULES": "", "NO_AT_BRIDGE": "0"}
+        read, write = os.pipe()
+        self._start("xvfb", "Xvfb", "-displayfd", str(write), "-screen", "0", "1366x768x24", "-nolisten", "tcp",
+                    pass_fds=[write])
+        os.close(write)
+        with os.fdopen(read) as pipe:
+            number = pipe.readline().strip()
+        if not number:
+            raise NotReady("Xvfb did not start")
+        self.env["DISPLAY"] = f":{number}"
+        self._start("openbox", "openbox", "--sm-disable")
+        self._start("bus", "/usr/libexec/at-spi-bus-launcher", "--launch-immediately", "--a11y=1", "--screen-reader=1")
+        conf = self.home / "speechd"
+        (conf / "modules").mkdir(parents=True)
+        (conf / "clients").mkdir()
+        voice = self.home / "voice"
+        voice.write_text(VOICE.format(transcript=self.transcript))
+        voice.chmod(0o755)
+        (conf / "speechd.conf").write_text(SPEECHD_CONF)
+        (conf / "clients" / "none.conf").write_text("")
+        (conf / "modules" / "transcript.conf").write_text(VOICE_CONF.format(voice=voice))
+        (self.home / ".asoundrc").write_text(ASOUNDRC)
+        self.transcript.touch()
+        self._start("speechd", "speech-dispatcher", "--run-single", "--config-dir", str(conf), "--log-dir",
+                    str(self.home))
+        wait_for(lambda: list(runtime.glob("speech-dispatcher/speechd.sock")), "Speech Dispatcher")
+
+    def _start_reader(self):
+        for _ in range(5):  # it does not always come up at once
+            reader = self._start("orca-output", "/usr/bin/python3", "/usr/bin/orca", "--replace",
+                                 f"--debug-file={self.orca_log}")
+            try:
+                wait_for(lambda: READY in self.transcript.read_text(), "Orca", 15)
+                break
+            except NotReady:
+                self._end(reader)
+        else:
+            raise NotReady(f"Orca did not start in five tries; its logs are in {self.home}")
+        self.heard()
+
+    def _orca(self):
+        return self.orca_log.read_text(errors="replace")
+
+    def _lines(self):
+        return self.transcript.read_text().splitlines()
+
+    def run(self, *command, **env):
+        self.env |= env
+        return self._start("program", *command)
+
+    def press(self, *keys):
+        for key in keys:
+            subprocess.run(["xdotool", "key", "--clearmodifiers", key], env=self.env, check=True)
+
+    def type(self, text):
+        subprocess.run(["xdotool", "type", "--delay", "120", text], env=self.env, check=True)
+
+    def heard(self):
+        """The texts spoken since the last call, once the voice has been quiet for a while; cut ones end in "[cut]"."""
+        last = None
+        since = time.monotonic()
+        while last is None or time.monotonic() - since < QUIET or self._speaking(last):
+            now = self._lines()
+            if now != last:
+                last, since = now, time.monotonic()
+            time.sleep(0.02)
+        new = last[self._read:]
+        self._read = len(last)
+        ended = [line[4:] for line in new if line.startswith("END ")]
+        texts = []
+        for line in new:
+            if line.startswith("START "):
+                text = line[6:]
+                if text in ended:
+                    ended.remove(text)
+                    texts.append(text)
+                else:
+                    texts.append(text + " [cut]")
+        return texts
+
+    def _speaking(self, lines):
+        return bool(lines) and lines[-1].startswith("START ") and time.monotonic() - self.transcript.stat().st_mtime < 3
+
+    def _end(self, child):
+        if child.poll() is None:
+            try:
+                os.killpg(child.pid, signal.SIGTERM)
+                child.wait(5)
+            except (ProcessLookupError, subprocess.TimeoutExpired):
+                os.killpg(child.pid, signal.SIGKILL)
+        self._children.remove(child)
+
+    def close(self, keep=False):
+        for child in reversed(self._children[:]):
+            self._end(child)
+        if keep:
+            print(f"logs kept in {self.home}", file=sys.stderr)
+        else:
+            shutil.rmtree(self.home, ignore_errors=True)
