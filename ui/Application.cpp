@@ -45,20 +45,22 @@ bool Application::notify(QObject* receiver, QEvent* event)
 }
 
 // With a screen reader on, Qt asks it about each key press and delivers the key again later, but access keys at once: of
-// Alt+S the S can come before the Alt. The menu bar would take that Alt for one pressed alone, and go to the menus at its
-// release; a menu just opened by its access key would close.
+// Alt+S the S can come before the Alt, of Alt alone the release before the press. The menu bar would then take that Alt
+// for one pressed alone, or for a second one; a menu just opened by its access key would close.
 bool Application::IsLateAlt(const QEvent& event)
 {
     if (event.type() == QEvent::Shortcut) {
-        m_accessKeyUsed = true;
+        m_altIsFresh = false;
     }
-    if (event.type() != QEvent::KeyPress || static_cast<const QKeyEvent&>(event).key() != Qt::Key_Alt) {
+    const bool isKey = event.type() == QEvent::KeyPress || event.type() == QEvent::KeyRelease;
+    if (!isKey || static_cast<const QKeyEvent&>(event).key() != Qt::Key_Alt) {
         return false;
     }
-    if (event.spontaneous()) { // the finger's own press, not its second delivery
-        m_accessKeyUsed = false;
+    if (event.spontaneous()) { // the finger's own, not its second delivery
+        m_altIsFresh = event.type() == QEvent::KeyPress;
+        return false;
     }
-    return m_accessKeyUsed;
+    return event.type() == QEvent::KeyPress && !m_altIsFresh;
 }
 
 void End()

@@ -21,7 +21,7 @@ public:
 private:
     bool IsLateAlt(const QEvent& event);
 
-    bool m_accessKeyUsed = false;
+    bool m_altIsFresh = false;
     int m_depth = 0;
     Announcer m_announcer;
     QTranslator m_translator;

@@ -56,7 +56,8 @@ void OneLineEdit::focusInEvent(QFocusEvent* event)
     QFocusEvent withoutSelecting(QEvent::FocusIn, Qt::OtherFocusReason);
     QLineEdit::focusInEvent(&withoutSelecting);
     if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason) {
-        setCursorPosition(0);
+        // Not before the reader has been told of the focus: a caret that moves first is all it would notice.
+        QMetaObject::invokeMethod(this, [this] { setCursorPosition(0); }, Qt::QueuedConnection);
     }
 }
 

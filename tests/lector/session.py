@@ -4,8 +4,10 @@ The voice is a transcript: Speech Dispatcher passes each text to a shell command
 begins, takes some time for it, and notes when it has come to the end. A text that is cut off has no end.
 """
 
+import json
 import os
 import pathlib
+import re
 import shutil
 import signal
 import subprocess
@@ -33,7 +35,7 @@ Include "clients/*.conf"
 VOICE_CONF = """\
 GenericExecuteSynth "{voice} \\'$DATA\\'"
 GenericMaxChunkLength 100000
-GenericDelimiters "\\f"
+GenericDelimiters "~"
 GenericPunctNone "none"
 GenericRecodeFallback "?"
 GenericLanguage "es" "es" "utf-8"
@@ -45,11 +47,17 @@ Debug 0
 
 VOICE = """\
 #!/bin/sh
-text=$(printf '%s' "$1" | tr '\\n' '|')
+text=$(printf '%s' "$1" | tr -d '\\r' | tr '\\n' '|')
 printf 'START %s\\n' "$text" >> '{transcript}'
-sleep 0.1
+ms=$((100 + 5 * ${{#text}}))
+sleep $((ms / 1000)).$(printf %03d $((ms % 1000)))
 printf 'END %s\\n' "$text" >> '{transcript}'
 """
+
+# Of the keys, only the characters typed are echoed: names of function keys and the like are cut off, or not, by the
+# speed of the fingers, and are the reader's own affair.
+ORCA_SETTINGS = {"enableFunctionKeys": False, "enableModifierKeys": False, "enableActionKeys": False,
+                 "enableNavigationKeys": False}
 
 ASOUNDRC = "pcm.!default { type null }\n"
 
@@ -85,9 +93,9 @@ class Session:
             raise
 
     def _start(self, name, *command, **options):
-        log = open(self.home / f"{name}.log", "wb")
-        child = subprocess.Popen(command, env=self.env, stdin=subprocess.DEVNULL, stdout=log, stderr=log,
-                                 start_new_session=True, **options)
+        with open(self.home / f"{name}.log", "wb") as log:
+            child = subprocess.Popen(command, env=self.env, stdin=subprocess.DEVNULL, stdout=log, stderr=log,
+                                     start_new_session=True, **options)
         self._children.append(child)
         return child
 
@@ -128,6 +136,10 @@ class Session:
         wait_for(lambda: list(runtime.glob("speech-dispatcher/speechd.sock")), "Speech Dispatcher")
 
     def _start_reader(self):
+        settings = self.home / ".local/share/orca/user-settings.conf"
+        settings.parent.mkdir(parents=True)
+        settings.write_text(json.dumps({"general": ORCA_SETTINGS, "pronunciations": {}, "keybindings": {}, "profiles": {
+            "default": ORCA_SETTINGS | {"profile": ["Default", "default"], "pronunciations": {}, "keybindings": {}}}}))
         for _ in range(5):  # it does not always come up at once
             reader = self._start("orca-output", "/usr/bin/python3", "/usr/bin/orca", "--replace",
                                  f"--debug-file={self.orca_log}")
@@ -140,8 +152,14 @@ class Session:
             raise NotReady(f"Orca did not start in five tries; its logs are in {self.home}")
         self.heard()
 
-    def _orca(self):
-        return self.orca_log.read_text(errors="replace")
+    def braille(self):
+        """The lines that a braille display has shown, in order."""
+        return re.findall(r"BRAILLE LINE:  '(.*)'$", self.orca_log.read_text(errors="replace"), re.MULTILINE)
+
+    def wait_heard(self, text):
+        """Waits until a text with `text` in it has been spoken to its end since the last `heard`."""
+        wait_for(lambda: any(line.startswith("END ") and text in line for line in self._lines()[self._read:]),
+                 f"the voice to say {text!r}")
 
     def _lines(self):
         return self.transcript.read_text().splitlines()

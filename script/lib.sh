@@ -1,0 +1,52 @@
+# Shared by the scripts: packages, builds and one clear line where something goes wrong. To be sourced by bash from the
+# top of the project.
+
+fail() {
+    printf 'kelvora: %s\n' "$*" >&2
+    exit 1
+}
+
+as_root() {
+    if [ "$(id -u)" -eq 0 ]; then
+        "$@"
+    elif command -v sudo >/dev/null; then
+        sudo "$@"
+    else
+        fail "se necesitan permisos de administrador (root o sudo) para instalar paquetes"
+    fi
+}
+
+is_installed() {
+    [ "$(dpkg-query -W -f='${db:Status-Status}' "$1" 2>/dev/null)" = installed ]
+}
+
+# need PACKAGE...: installs what is missing of Debian's packages.
+need() {
+    command -v dpkg-query >/dev/null || fail "este programa instala sus dependencias solo en Debian 12 o posterior"
+    local missing=() package log
+    for package in "$@"; do
+        is_installed "$package" || missing+=("$package")
+    done
+    [ ${#missing[@]} -eq 0 ] && return
+    echo "Instalando: ${missing[*]}"
+    log=$(mktemp)
+    as_root apt-get update >"$log" 2>&1 &&
+        as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y --no-install-recommends "${missing[@]}" \
+            >>"$log" 2>&1 </dev/null ||
+        fail "no se ha podido instalar: ${missing[*]} (detalles en $log)"
+    rm -f "$log"
+}
+
+build_packages=(g++ cmake ninja-build qt6-base-dev qt6-base-dev-tools libgl-dev)
+run_packages=(qt6-translations-l10n fonts-liberation at-spi2-core)
+
+# build PRESET [CMAKE-OPTION...]: configures what is not, and builds what is not up to date.
+build() {
+    local preset=$1 log
+    shift
+    log=build/$preset.log
+    mkdir -p build
+    { [ -f "build/$preset/build.ninja" ] && [ $# -eq 0 ] || cmake --preset "$preset" "$@"; } >"$log" 2>&1 &&
+        cmake --build --preset "$preset" >>"$log" 2>&1 ||
+        { tail -n 40 "$log" >&2; fail "la compilación ha fallado (todo en $log)"; }
+}
