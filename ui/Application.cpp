@@ -44,9 +44,9 @@ bool Application::notify(QObject* receiver, QEvent* event)
     return handled;
 }
 
-// With a screen reader on, Qt asks it about each key press and delivers the key again later, but access keys at once: of
-// Alt+S the S can come before the Alt, of Alt alone the release before the press. The menu bar would then take that Alt
-// for one pressed alone, or for a second one; a menu just opened by its access key would close.
+// With a screen reader on, Qt asks it about each key press and delivers the key again later, but access keys at once:
+// of Alt+S the S can come before the Alt, of Alt alone the release before the press. The menu bar would then take that
+// Alt for one pressed alone, or for a second one; a menu just opened by its access key would close.
 bool Application::IsLateAlt(const QEvent& event)
 {
     if (event.type() == QEvent::Shortcut) {

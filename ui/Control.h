@@ -35,6 +35,9 @@ public:
     // its place is measured.
     virtual void Scale(double scale, const QPoint& origin);
 
+    // Takes the colours that follow the desktop's theme anew.
+    virtual void TakeColors() {}
+
     // The steps of a key press that come before the widget's own; what they swallow does not reach it.
     virtual KeyResult KeyDown(int keyCode, int shift);
     virtual KeyResult KeyPressed(int keyAscii);

@@ -94,6 +94,17 @@ const Control* Form::ActiveControl() const
     return ControlOf(focusWidget());
 }
 
+bool Form::event(QEvent* event)
+{
+    const bool handled = QMainWindow::event(event);
+    if (event->type() == QEvent::ApplicationPaletteChange) { // only windows are told
+        for (const std::unique_ptr<Control>& control : m_controls) {
+            control->TakeColors();
+        }
+    }
+    return handled;
+}
+
 bool Form::eventFilter(QObject* watched, QEvent* event)
 {
     if (watched == centralWidget() && event->type() == QEvent::Resize) {

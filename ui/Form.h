@@ -71,6 +71,7 @@ protected:
         return ControlArray<T>(std::move(members));
     }
 
+    bool event(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:

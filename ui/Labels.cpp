@@ -21,16 +21,25 @@ void Label::Caption(std::string_view caption)
     m_label.setText(ToQString(caption));
 }
 
-Frame::Frame(const ControlDesign& design, QWidget* parent)
-    : Control(design, *new QGroupBox(ToQString(design.text), parent))
+FrameWidget::FrameWidget(const ControlDesign& design, QWidget* parent) : QGroupBox(ToQString(design.text), parent)
 {
     if (design.color) {
-        QPalette colors = Widget().palette();
-        colors.setColor(QPalette::Window, ToQColor(*design.color));
-        colors.setColor(QPalette::WindowText, Qt::black);
-        Widget().setPalette(colors);
-        Widget().setAutoFillBackground(true);
+        m_color = ToQColor(*design.color);
     }
+}
+
+void FrameWidget::paintEvent(QPaintEvent* event)
+{
+    if (!m_color) {
+        QGroupBox::paintEvent(event);
+        return;
+    }
+    constexpr int margin = 4;
+    QPainter painter(this);
+    painter.fillRect(rect(), *m_color);
+    painter.setPen(Qt::black);
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    painter.drawText(rect().adjusted(margin, margin, -margin, -margin), Qt::AlignTop | Qt::AlignHCenter, title());
 }
 
 void LineWidget::paintEvent(QPaintEvent*)

@@ -22,11 +22,26 @@ private:
     QLabel& m_label;
 };
 
+// The widget of a frame. A coloured one is painted here: the desktop's style would darken the colour.
+class FrameWidget final : public QGroupBox
+{
+    Q_OBJECT
+
+public:
+    FrameWidget(const ControlDesign& design, QWidget* parent);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    std::optional<QColor> m_color;
+};
+
 // A box with a caption round other controls. A coloured one has the colour as background and its caption in black.
 class Frame final : public Control
 {
 public:
-    Frame(const ControlDesign& design, QWidget* parent);
+    Frame(const ControlDesign& design, QWidget* parent) : Control(design, *new FrameWidget(design, parent)) {}
 };
 
 // A horizontal or vertical bar that fills its place.

@@ -21,7 +21,7 @@ OneLineEdit::OneLineEdit(const ControlDesign& design, QWidget* parent) : QLineEd
     setFrame(false); // the edge is painted here: Qt's would leave too little room for five digits
     setReadOnly(design.typing == Typing::Locked);
     setAlignment(design.alignment == Alignment::Center ? Qt::AlignCenter : Qt::AlignLeft | Qt::AlignVCenter);
-    Color();
+    TakeColors();
     connect(this, &QLineEdit::textChanged, this, &OneLineEdit::Fit);
     connect(this, &QLineEdit::textEdited, this, [this] {
         if (edited) {
@@ -42,12 +42,21 @@ void OneLineEdit::SetFullFont(const QFont& font)
     Fit();
 }
 
-void OneLineEdit::changeEvent(QEvent* event)
+void OneLineEdit::TakeColors()
 {
-    QLineEdit::changeEvent(event);
-    if (event->type() == QEvent::ApplicationPaletteChange) {
-        Color();
+    QPalette colors = QApplication::palette();
+    if (m_coloring == Coloring::Selection) {
+        const QColor background = colors.color(QPalette::Highlight);
+        const QColor type = ReadableOn(background, colors.color(QPalette::HighlightedText));
+        colors.setColor(QPalette::Base, background);
+        colors.setColor(QPalette::Text, type);
+        colors.setColor(QPalette::Highlight, type);
+        colors.setColor(QPalette::HighlightedText, background);
+    } else if (isReadOnly()) {
+        colors.setColor(QPalette::Base, colors.color(QPalette::Window));
+        colors.setColor(QPalette::Text, colors.color(QPalette::WindowText));
     }
+    setPalette(colors);
 }
 
 void OneLineEdit::focusInEvent(QFocusEvent* event)
@@ -57,7 +66,8 @@ void OneLineEdit::focusInEvent(QFocusEvent* event)
     QLineEdit::focusInEvent(&withoutSelecting);
     if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason) {
         // Not before the reader has been told of the focus: a caret that moves first is all it would notice.
-        QMetaObject::invokeMethod(this, [this] { setCursorPosition(0); }, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(
+            this, [this] { setCursorPosition(0); }, Qt::QueuedConnection);
     }
 }
 
@@ -90,23 +100,6 @@ void OneLineEdit::resizeEvent(QResizeEvent* event)
 {
     QLineEdit::resizeEvent(event);
     Fit();
-}
-
-void OneLineEdit::Color()
-{
-    QPalette colors = QApplication::palette();
-    if (m_coloring == Coloring::Selection) {
-        const QColor background = colors.color(QPalette::Highlight);
-        const QColor type = ReadableOn(background, colors.color(QPalette::HighlightedText));
-        colors.setColor(QPalette::Base, background);
-        colors.setColor(QPalette::Text, type);
-        colors.setColor(QPalette::Highlight, type);
-        colors.setColor(QPalette::HighlightedText, background);
-    } else if (isReadOnly()) {
-        colors.setColor(QPalette::Base, colors.color(QPalette::Window));
-        colors.setColor(QPalette::Text, colors.color(QPalette::WindowText));
-    }
-    setPalette(colors);
 }
 
 QRect OneLineEdit::TextArea() const

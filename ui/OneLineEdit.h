@@ -25,14 +25,15 @@ public:
     // The type that the box has when its text is short.
     void SetFullFont(const QFont& font);
 
+    // Takes its colours from the desktop's theme.
+    void TakeColors();
+
 protected:
-    void changeEvent(QEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
 private:
-    void Color();
     void Fit();
     QRect TextArea() const;
 

@@ -69,6 +69,13 @@ void TextBox::Scale(double scale, const QPoint& origin)
     }
 }
 
+void TextBox::TakeColors()
+{
+    if (auto* oneLine = qobject_cast<OneLineEdit*>(&Widget())) {
+        oneLine->TakeColors();
+    }
+}
+
 KeyResult TextBox::KeyDown(int keyCode, int shift)
 {
     return OnKeyDown ? OnKeyDown(Index(), keyCode, shift) : KeyResult::Pass;

@@ -28,6 +28,7 @@ public:
     void Select(int start, int length) { m_edit.Select(start, length); }
 
     void Scale(double scale, const QPoint& origin) override;
+    void TakeColors() override;
     KeyResult KeyDown(int keyCode, int shift) override;
     KeyResult KeyPressed(int keyAscii) override;
 

@@ -3,8 +3,12 @@
 
 namespace ui {
 
-void InstallAccessibleInterfaces() {}
+void InstallAccessibleInterfaces()
+{
+}
 
-void Announce(QWidget&, const QString&) {}
+void Announce(QWidget&, const QString&)
+{
+}
 
 } // namespace ui

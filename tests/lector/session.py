@@ -175,8 +175,13 @@ class Session:
     def type(self, text):
         subprocess.run(["xdotool", "type", "--delay", "120", text], env=self.env, check=True)
 
-    def heard(self):
-        """The texts spoken since the last call, once the voice has been quiet for a while; cut ones end in "[cut]"."""
+    def heard(self, at_least=0):
+        """The texts spoken since the last call; one that was cut off ends in "[cut]". Waits until there are `at_least`
+        so many, or the limit has passed, and then until the voice has been quiet for a while."""
+        try:
+            wait_for(lambda: sum(line.startswith("END ") for line in self._lines()[self._read:]) >= at_least, "", 10)
+        except NotReady:
+            pass  # the caller sees what is missing
         last = None
         since = time.monotonic()
         while last is None or time.monotonic() - since < QUIET or self._speaking(last):

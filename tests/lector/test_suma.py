@@ -55,7 +55,8 @@ class Suma(unittest.TestCase):
 
     def expect(self, *parts):
         """What was heard since the last call is exactly this, each text once and to its end."""
-        self.assertEqual(self.session.heard(), [text for part in parts for text in part])
+        expected = [text for part in parts for text in part]
+        self.assertEqual(self.session.heard(len(expected)), expected)
 
     def press(self, key, *parts):
         self.session.press(key)

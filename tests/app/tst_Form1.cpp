@@ -1,0 +1,233 @@
+#include "Form1.h"
+#include "Support.h"
+
+#include <QAction>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTimer>
+
+using namespace support;
+
+namespace {
+
+const QStringList captions{"Representación &gráfica",   "&Expresa con fracciones",
+                           "&Fracción de una cantidad", "D&escomposición en factores primos",
+                           "&Ordenar fracciones",       "&Conversión al mismo denominador",
+                           "&Suma de fracciones",       "&Diferencia de fracciones",
+                           "&Producto de fracciones",   "&Cociente de fracciones",
+                           "&Completa la serie",        "&Salir"};
+
+QWidget* Window(const QString& name)
+{
+    QWidget* found = nullptr;
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        if (window->objectName() == name && window->isVisible()) {
+            Q_ASSERT(found == nullptr);
+            found = window;
+        }
+    }
+    return found;
+}
+
+} // namespace
+
+class tst_Form1 : public QObject
+{
+    Q_OBJECT
+
+private:
+    QPointer<app::Form1> m_menu;
+
+    QPushButton& Command1(int index) const { return Child<QPushButton>(*m_menu, QString("Command1(%1)").arg(index)); }
+
+    QWidget* OpenSum() const
+    {
+        Command1(6).setFocus();
+        Press(Qt::Key_Return);
+        QWidget* sum = Window("Form2");
+        return sum != nullptr && WaitActive(*sum) ? sum : nullptr;
+    }
+
+private slots:
+    void init()
+    {
+        m_menu = new app::Form1;
+        m_menu->Open(ui::Modality::Modeless);
+        QVERIFY(WaitActive(*m_menu));
+    }
+    void cleanup()
+    {
+        QApplication::closeAllWindows();
+        Settle();
+        QVERIFY(!m_menu);
+        QVERIFY(QApplication::topLevelWidgets().isEmpty());
+    }
+
+    void shows_twelve_buttons_in_the_order_of_tab()
+    {
+        QCOMPARE(m_menu->windowTitle(), "KELVORA");
+        QCOMPARE(m_menu->findChildren<QPushButton*>().size(), captions.size());
+        const QWidget* previous = nullptr;
+        for (int i = 0; i < captions.size(); ++i) {
+            QCOMPARE(Command1(i).text(), captions[i]);
+            QVERIFY(Command1(i).isVisible());
+            QCOMPARE(Command1(i).accessibleName(), QString(captions[i]).remove('&'));
+            if (previous != nullptr) {
+                QCOMPARE(previous->nextInFocusChain(), &Command1(i));
+            }
+            previous = &Command1(i);
+        }
+    }
+
+    void screens_that_are_not_there_yet_cannot_be_pressed()
+    {
+        for (int i = 0; i < captions.size(); ++i) {
+            QCOMPARE(Command1(i).isEnabled(), i == 6 || i == 11);
+        }
+        QCOMPARE(Focus(), "Command1(6)");
+        Press(Qt::Key_Tab);
+        QCOMPARE(Focus(), "Command1(11)");
+        Press(Qt::Key_Tab);
+        QCOMPARE(Focus(), "Command1(6)");
+    }
+
+    void all_faces_are_green()
+    {
+        for (int i = 0; i < captions.size(); ++i) {
+            QCOMPARE(Command1(i).grab().toImage().pixelColor(6, 6), QColor(0, 255, 0));
+        }
+    }
+
+    void lays_the_buttons_out_by_its_rule_at_every_size_data()
+    {
+        QTest::addColumn<QSize>("size");
+        QTest::addRow("opening") << QSize(613, 613);
+        QTest::addRow("wide") << QSize(1366, 700);
+        QTest::addRow("small") << QSize(330, 300);
+        QTest::addRow("odd") << QSize(997, 641);
+    }
+    void lays_the_buttons_out_by_its_rule_at_every_size()
+    {
+        QFETCH(QSize, size);
+        const int bar = m_menu->height() - m_menu->centralWidget()->height();
+        m_menu->resize(size.width(), size.height() + bar);
+        Settle();
+        QCOMPARE(m_menu->centralWidget()->size(), size);
+        const double unit = std::nearbyint(size.width() * 15 / 11.0);
+        const double row = std::nearbyint(size.height() * 15 / 19.0);
+        for (int i = 0; i < 12; ++i) {
+            const QRectF expected((i < 6 ? unit : 6 * unit) / 15, (3 * row * (i % 6) + row) / 15, 4 * unit / 15,
+                                  2 * row / 15);
+            const QRect seen = Command1(i).geometry();
+            QVERIFY(std::abs(seen.left() - expected.left()) <= 1 && std::abs(seen.top() - expected.top()) <= 1);
+            QVERIFY(std::abs(seen.width() - expected.width()) <= 1 && std::abs(seen.height() - expected.height()) <= 1);
+        }
+    }
+
+    void opens_with_the_inner_size_of_the_window()
+    {
+        QCOMPARE(m_menu->centralWidget()->size(), QSize(613, 613)); // 9200 twips
+    }
+
+    void every_caption_shows_whole_in_its_button()
+    {
+        for (const QSize& size : {QSize(613, 650), QSize(1366, 768)}) {
+            m_menu->resize(size);
+            Settle();
+            for (int i = 0; i < captions.size(); ++i) {
+                const QRect room = Command1(i).rect().adjusted(5, 1, -5, -1);
+                const int flags = Qt::AlignCenter | Qt::TextShowMnemonic | Qt::TextWordWrap;
+                const QFont font = ui::Fitting(Command1(i).font(), captions[i], room.size(), flags, 9);
+                QVERIFY(font.pixelSize() >= 14);
+                QVERIFY(room.contains(QFontMetrics(font).boundingRect(room, flags, captions[i])));
+            }
+        }
+    }
+
+    void opens_a_screen_beside_itself_and_only_once()
+    {
+        const QWidget* sum = OpenSum();
+        QVERIFY(sum != nullptr);
+        QVERIFY(!sum->isModal());
+        m_menu->activateWindow();
+        QVERIFY(WaitActive(*m_menu));
+        Command1(6).setFocus();
+        Press(Qt::Key_Space);
+        QVERIFY(WaitActive(*Window("Form2")));
+        QCOMPARE(Window("Form2"), sum); // Window asserts that there is one alone
+    }
+
+    void brings_a_minimised_screen_back()
+    {
+        QWidget* sum = OpenSum();
+        sum->showMinimized();
+        m_menu->activateWindow();
+        Settle();
+        Command1(6).click();
+        Settle();
+        QVERIFY(!sum->isMinimized());
+        QVERIFY(sum->isVisible());
+    }
+
+    void opens_a_closed_screen_anew()
+    {
+        QPointer<QWidget> first = OpenSum();
+        first->close();
+        Settle();
+        QVERIFY(!first);
+        m_menu->activateWindow();
+        QVERIFY(WaitActive(*m_menu));
+        QCOMPARE(Focus(), "Command1(6)"); // where the pupil left the menu
+        QVERIFY(OpenSum() != nullptr);
+    }
+
+    void an_access_key_of_two_buttons_moves_the_focus_round_them()
+    {
+        Press(Qt::Key_S, Qt::AltModifier);
+        const QString first = Focus();
+        Press(Qt::Key_S, Qt::AltModifier);
+        QCOMPARE(QSet<QString>({first, Focus()}), QSet<QString>({"Command1(6)", "Command1(11)"}));
+        QVERIFY(Window("Form2") == nullptr);
+        QVERIFY(m_menu->isVisible());
+    }
+
+    void closing_the_menu_leaves_open_screens_open()
+    {
+        const QPointer<QWidget> sum = OpenSum();
+        m_menu->close();
+        Settle();
+        QVERIFY(!m_menu);
+        QVERIFY(sum && sum->isVisible());
+    }
+
+    void shows_the_credits()
+    {
+        WithDialog([this] { Child<QAction>(*m_menu, "MnuAce").trigger(); },
+                   [](QWidget& dialog) {
+                       const auto& box = dynamic_cast<QMessageBox&>(dialog);
+                       QVERIFY(box.text().contains("Autores"));
+                       QVERIFY(box.text().contains("Contacto"));
+                       QCOMPARE(box.buttons().size(), 1);
+                       QTest::keyClick(&dialog, Qt::Key_Return);
+                   });
+        QCOMPARE(Child<QAction>(*m_menu, "MnuAce").text(), "Acerca de...");
+    }
+
+    // Last, since no event loop runs after the program has ended.
+    void leaving_closes_every_window_and_ends_the_program()
+    {
+        OpenSum();
+        m_menu->activateWindow();
+        QVERIFY(WaitActive(*m_menu));
+        QEventLoop loop;
+        int status = -1;
+        QTimer::singleShot(0, &loop, [this] { QTest::mouseClick(&Command1(11), Qt::LeftButton); });
+        QTimer::singleShot(5000, &loop, [&loop] { loop.exit(-2); });
+        status = loop.exec(); // ends as the application's loop does
+        QCOMPARE(status, 0);
+        QVERIFY(Window("Form1") == nullptr && Window("Form2") == nullptr);
+    }
+};
+
+KELVORA_TEST_MAIN(tst_Form1)
+#include "tst_Form1.moc"

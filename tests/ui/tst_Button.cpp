@@ -1,0 +1,152 @@
+#include "SampleForm.h"
+#include "Support.h"
+
+#include <QAbstractButton>
+
+using namespace support;
+
+class tst_Button : public QObject
+{
+    Q_OBJECT
+
+private:
+    std::unique_ptr<sample::SampleForm> m_form;
+    QStringList m_clicked;
+
+    QWidget& Widget(const QString& name) const { return Child<QWidget>(*m_form, name); }
+
+private slots:
+    void init()
+    {
+        m_form = std::make_unique<sample::SampleForm>();
+        m_form->setAttribute(Qt::WA_DeleteOnClose, false);
+        m_clicked.clear();
+        for (const char* name : {"Command2", "CbUno", "CbDos"}) {
+            for (ui::Button& button : m_form->All<ui::Button>(name)) {
+                button.OnClick = [this, name](int Index) {
+                    m_clicked += QString("%1/%2").arg(name).arg(Index);
+                };
+            }
+        }
+        m_form->Open(ui::Modality::Modeless);
+        QVERIFY(WaitActive(*m_form));
+    }
+    void cleanup() { m_form.reset(); }
+
+    void is_pressed_by_its_access_key_at_once()
+    {
+        Press(Qt::Key_C, Qt::AltModifier);
+        QCOMPARE(m_clicked, QStringList("Command2/0")); // no event has been handled in between
+        QCOMPARE(Focus(), "Command2(0)");
+    }
+
+    void shares_an_access_key_without_being_pressed()
+    {
+        Press(Qt::Key_D, Qt::AltModifier);
+        const QString first = Focus();
+        Press(Qt::Key_D, Qt::AltModifier);
+        const QString second = Focus();
+        QCOMPARE(QSet<QString>({first, second}), QSet<QString>({"CbUno", "CbDos"}));
+        QTest::qWait(150); // longer than Qt's animated press
+        QCOMPARE(m_clicked, QStringList());
+    }
+
+    void is_pressed_by_enter_by_space_and_by_the_mouse()
+    {
+        Widget("Command2(1)").setFocus();
+        Press(Qt::Key_Return);
+        Press(Qt::Key_Enter);
+        Press(Qt::Key_Space);
+        QCOMPARE(m_clicked, QStringList({"Command2/1", "Command2/1", "Command2/1"}));
+        QTest::mouseClick(&Widget("Command2(0)"), Qt::LeftButton);
+        QCOMPARE(m_clicked.last(), "Command2/0");
+        QCOMPARE(Focus(), "Command2(0)");
+    }
+
+    void cursor_keys_step_on_but_not_with_control()
+    {
+        Widget("Command2(0)").setFocus();
+        Press(Qt::Key_Right, Qt::ControlModifier);
+        Press(Qt::Key_Down, Qt::ControlModifier);
+        QCOMPARE(Focus(), "Command2(0)");
+        Press(Qt::Key_Right);
+        QCOMPARE(Focus(), "Command2(1)");
+        Press(Qt::Key_Up);
+        QCOMPARE(Focus(), "Command2(0)");
+    }
+
+    void a_new_caption_is_drawn_named_and_bears_the_access_key()
+    {
+        m_form->The<ui::Button>("CbUno").Caption("&Nuevo");
+        QCOMPARE(QAccessible::queryAccessibleInterface(&Widget("CbUno"))->text(QAccessible::Name), "Nuevo");
+        Press(Qt::Key_N, Qt::AltModifier);
+        QCOMPARE(m_clicked, QStringList("CbUno/-1"));
+    }
+
+    void the_face_keeps_its_colour_in_every_theme_and_the_caption_is_black()
+    {
+        QPalette dark;
+        dark.setColor(QPalette::Window, Qt::black);
+        dark.setColor(QPalette::WindowText, Qt::white);
+        dark.setColor(QPalette::Button, Qt::black);
+        dark.setColor(QPalette::ButtonText, Qt::white);
+        for (const QPalette& palette : {QPalette(), dark}) {
+            QApplication::setPalette(palette);
+            for (const ui::Color color : {ui::Color::Red, ui::Color::Green, ui::Color::Yellow, ui::Color::Cyan}) {
+                m_form->The<ui::Button>("CbUno").BackColor(color);
+                QWidget& button = Widget("CbUno");
+                const QImage image = button.grab().toImage();
+                QCOMPARE(image.pixelColor(6, 6), ui::ToQColor(color));
+                int black = 0;
+                for (int x = 8; x < image.width() - 8; ++x) {
+                    for (int y = 6; y < image.height() - 6; ++y) {
+                        black += image.pixelColor(x, y) == QColor(Qt::black) ? 1 : 0;
+                        QVERIFY(image.pixelColor(x, y) != QColor(Qt::white));
+                    }
+                }
+                QVERIFY(black > 20);
+            }
+        }
+        QApplication::setPalette(QPalette());
+    }
+
+    void the_focus_mark_is_wide_and_stands_out_on_every_colour()
+    {
+        for (const ui::Color color : {ui::Color::Red, ui::Color::Green, ui::Color::Yellow, ui::Color::Cyan}) {
+            m_form->The<ui::Button>("CbUno").BackColor(color);
+            Widget("CbDos").setFocus();
+            const QImage without = Widget("CbUno").grab().toImage();
+            Widget("CbUno").setFocus();
+            const QImage with = Widget("CbUno").grab().toImage();
+            int width = 0;
+            for (int x = 0; x < 8; ++x) {
+                const QColor before = without.pixelColor(x, 15);
+                const QColor after = with.pixelColor(x, 15);
+                width += ui::Contrast(before, after) >= 3 ? 1 : 0;
+            }
+            QVERIFY2(width >= 2, qPrintable(QString::number(width)));
+        }
+    }
+
+    void every_line_of_a_caption_is_drawn()
+    {
+        const QImage image = Widget("Command2(1)").grab().toImage();
+        QList<int> rowsWithType;
+        for (int y = 5; y < image.height() - 5; ++y) {
+            for (int x = 8; x < image.width() - 8; ++x) {
+                if (image.pixelColor(x, y) == QColor(Qt::black)) {
+                    rowsWithType += y;
+                    break;
+                }
+            }
+        }
+        int gaps = 0;
+        for (qsizetype i = 1; i < rowsWithType.size(); ++i) {
+            gaps += rowsWithType[i] - rowsWithType[i - 1] > 1 ? 1 : 0;
+        }
+        QVERIFY(gaps >= 2); // 7, bar and 9 are apart
+    }
+};
+
+KELVORA_TEST_MAIN(tst_Button)
+#include "tst_Button.moc"

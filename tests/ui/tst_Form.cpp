@@ -1,0 +1,295 @@
+#include "SampleForm.h"
+#include "Support.h"
+
+#include <QAction>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QPlainTextEdit>
+
+using namespace support;
+using ui::KeyResult;
+
+class tst_Form : public QObject
+{
+    Q_OBJECT
+
+private:
+    QPointer<sample::SampleForm> m_form;
+
+    void Open(ui::Modality modality = ui::Modality::Modeless)
+    {
+        m_form->Open(modality);
+        QVERIFY(WaitActive(*m_form));
+    }
+    ui::TextBox& Box(std::string_view name) const { return m_form->The<ui::TextBox>(name); }
+
+private slots:
+    void init() { m_form = new sample::SampleForm; }
+    void cleanup()
+    {
+        if (m_form) {
+            m_form->close();
+            delete m_form;
+        }
+        Settle();
+    }
+
+    void opens_as_a_window_of_its_size_with_the_menu_bar_on_top()
+    {
+        Open();
+        QCOMPARE(m_form->centralWidget()->size(), QSize(220, 400));
+        QCOMPARE(m_form->height(), 400 + m_form->menuBar()->height());
+        QCOMPARE(m_form->windowTitle(), "Muestra");
+        QCOMPARE(QAccessible::queryAccessibleInterface(m_form)->role(), QAccessible::Window);
+    }
+
+    void opens_with_the_focus_on_the_first_control()
+    {
+        Open();
+        QCOMPARE(Focus(), "Text1(1)");
+        QCOMPARE(m_form->ActiveControl()->Name(), "Text1");
+        QCOMPARE(m_form->ActiveControl()->Index(), 1);
+    }
+
+    void loading_may_put_the_focus_elsewhere()
+    {
+        m_form->OnLoad = [this] {
+            m_form->The<ui::Button>("CbUno").SetFocus();
+        };
+        Open();
+        QCOMPARE(Focus(), "CbUno");
+    }
+
+    void a_modal_screen_blocks_the_others()
+    {
+        sample::SampleForm other;
+        other.setAttribute(Qt::WA_DeleteOnClose, false);
+        other.Open(ui::Modality::Modeless);
+        QVERIFY(WaitActive(other));
+        Open(ui::Modality::Modal);
+        QCOMPARE(QApplication::activeModalWidget(), m_form.data());
+        int clicks = 0;
+        other.The<ui::Button>("CbUno").OnClick = [&clicks](int) {
+            ++clicks;
+        };
+        QTest::mouseClick(other.windowHandle(), Qt::LeftButton, {}, QPoint(50, 400));
+        QCOMPARE(clicks, 0);
+    }
+
+    void every_object_bears_its_name()
+    {
+        for (const char* name : {"Label1", "Text1(0)", "Text1(1)", "TbDesco", "Frame1", "TBFrac", "Line1", "TbMensajes",
+                                 "Command2(0)", "Command2(1)"}) {
+            Child<QWidget>(*m_form, name);
+        }
+        for (const char* name : {"MnuOpc", "MnuOpcDen", "MnuOpcDenLis(0)", "MnuOpcDenLis(1)", "MnuOpcLee", "MnuAce"}) {
+            Child<QAction>(*m_form, name);
+        }
+    }
+
+    void accessible_names_are_those_given_and_not_the_frames()
+    {
+        const auto name = [this](const char* control) {
+            return QAccessible::queryAccessibleInterface(&Child<QWidget>(*m_form, control))->text(QAccessible::Name);
+        };
+        QCOMPARE(name("TBFrac"), "Numerador rojo");
+        QCOMPARE(name("Text1(0)"), "Primera caja");
+        QCOMPARE(name("Command2(0)"), "Continuar");
+        QCOMPARE(name("Command2(1)"), "7 - 9");
+        QCOMPARE(QAccessible::queryAccessibleInterface(&Child<QWidget>(*m_form, "Line1"))->role(),
+                 QAccessible::Separator);
+    }
+
+    void controls_of_a_frame_lie_inside_it()
+    {
+        Open();
+        QCOMPARE(Child<QWidget>(*m_form, "TBFrac").parentWidget(), &Child<QWidget>(*m_form, "Frame1"));
+        QCOMPARE(Child<QWidget>(*m_form, "TBFrac").pos(), QPoint(13, 27));
+        const QImage frame = Child<QWidget>(*m_form, "Frame1").grab().toImage();
+        QCOMPARE(frame.pixelColor(frame.width() - 10, frame.height() - 10), QColor(255, 0, 0));
+    }
+
+    void a_labels_access_key_leads_to_the_next_control()
+    {
+        Open();
+        Press(Qt::Key_P, Qt::AltModifier);
+        QCOMPARE(Focus(), "Text1(0)");
+    }
+
+    void tab_leaves_boxes_of_several_lines()
+    {
+        Open();
+        Box("TbDesco").SetFocus();
+        Press(Qt::Key_Tab);
+        QCOMPARE(Focus(), "TBFrac");
+        Press(Qt::Key_Backtab, Qt::ShiftModifier);
+        Press(Qt::Key_Backtab, Qt::ShiftModifier);
+        QCOMPARE(Focus(), "Text1(0)");
+        QCOMPARE(Box("TbDesco").Text(), "a\r\nb");
+    }
+
+    void sees_every_key_before_the_control_once()
+    {
+        QStringList seen;
+        m_form->OnKeyDown = [&seen](int code, int shift) {
+            if (code != 0) { // not the modifier keys themselves
+                seen += QString("%1/%2").arg(code).arg(shift);
+            }
+            return KeyResult::Pass;
+        };
+        Open();
+        for (const char* name : {"Text1(0)", "Text1(1)", "TbDesco", "Command2(0)"}) {
+            Child<QWidget>(*m_form, name).setFocus();
+            seen.clear();
+            Press(Qt::Key_F2);
+            Press(Qt::Key_L, Qt::ShiftModifier);
+            Press(Qt::Key_R, Qt::ControlModifier);
+            Press(Qt::Key_Delete);
+            QCOMPARE(seen, QStringList({"113/0", "76/1", "82/2", "46/0"}));
+        }
+    }
+
+    void may_swallow_a_key_before_the_control_gets_it()
+    {
+        m_form->OnKeyDown = [](int code, int) {
+            return code == 'A' ? KeyResult::Swallow : KeyResult::Pass;
+        };
+        Open();
+        Box("TBFrac").SetFocus();
+        Type("abca");
+        QCOMPARE(Box("TBFrac").Text(), "bc");
+    }
+
+    void says_what_loading_wrote_once_and_after_the_focus()
+    {
+        Ear ear;
+        m_form->OnLoad = [this] {
+            Box("TbMensajes").Text("primero");
+            Box("TbMensajes").Text("tres cuartos");
+            Box("Text3").Text("Hola");
+        };
+        m_form->Open(ui::Modality::Modeless);
+        QVERIFY(WaitActive(*m_form));
+        QCOMPARE(ear.Take(), QStringList({"FOCUS Text1(1)", "SAY tres cuartos Hola"}));
+    }
+
+    void says_the_texts_of_one_event_together_after_all_focus_changes()
+    {
+        m_form->The<ui::Button>("CbUno").OnClick = [this](int) {
+            Box("Text3").Text("Uno");
+            Box("TBFrac").SetFocus();
+            Box("TbMensajes").Text("dos");
+            Box("Text1").SetFocus();
+        };
+        Open();
+        Ear ear;
+        m_form->The<ui::Button>("CbUno").SetFocus();
+        ear.Take();
+        Press(Qt::Key_Space);
+        QCOMPARE(ear.Take(), QStringList({"FOCUS TBFrac", "FOCUS Text1(0)", "SAY Uno dos"}));
+    }
+
+    void says_an_equal_text_again_and_an_emptied_box_not_at_all()
+    {
+        Open();
+        Ear ear;
+        m_form->The<ui::Button>("CbUno").OnClick = [this](int) {
+            Box("Text3").Text("Resultado correcto");
+        };
+        m_form->The<ui::Button>("CbDos").OnClick = [this](int) {
+            Box("Text3").Text("");
+        };
+        for (int i = 0; i < 2; ++i) {
+            QTest::mouseClick(&Child<QWidget>(*m_form, "CbUno"), Qt::LeftButton);
+            QCOMPARE(ear.TakeSaid(), QStringList("Resultado correcto"));
+        }
+        QTest::mouseClick(&Child<QWidget>(*m_form, "CbDos"), Qt::LeftButton);
+        QCOMPARE(ear.TakeSaid(), QStringList());
+        QCOMPARE(Box("Text3").Text(), "");
+    }
+
+    void a_silent_box_says_nothing()
+    {
+        Open();
+        Ear ear;
+        m_form->The<ui::Button>("CbUno").OnClick = [this](int) {
+            Box("TBFrac").Text("9");
+        };
+        QTest::mouseClick(&Child<QWidget>(*m_form, "CbUno"), Qt::LeftButton);
+        QCOMPARE(ear.TakeSaid(), QStringList());
+    }
+
+    void a_message_to_a_window_in_the_background_waits_for_it_and_keeps_no_other_silent()
+    {
+        Open();
+        sample::SampleForm other;
+        other.setAttribute(Qt::WA_DeleteOnClose, false);
+        other.Open(ui::Modality::Modeless);
+        QVERIFY(WaitActive(other));
+        Ear ear;
+        other.The<ui::Button>("CbUno").OnClick = [this, &other](int) {
+            Box("Text3").Text("detrás");
+            other.The<ui::TextBox>("Text3").Text("delante");
+        };
+        QTest::mouseClick(&Child<QWidget>(other, "CbUno"), Qt::LeftButton);
+        QCOMPARE(ear.TakeSaid(), QStringList("delante"));
+        m_form->BringForward();
+        QVERIFY(WaitActive(*m_form));
+        QCOMPARE(ear.TakeSaid(), QStringList("detrás"));
+    }
+
+    void a_closed_window_takes_its_message_with_it()
+    {
+        Ear ear;
+        {
+            sample::SampleForm lost;
+            lost.The<ui::TextBox>("Text3").Text("nadie lo oye");
+        }
+        Open();
+        QCOMPARE(ear.TakeSaid(), QStringList());
+    }
+
+    void menus_are_arrays_of_which_one_entry_is_checked()
+    {
+        auto items = m_form->All<ui::MenuItem>("MnuOpcDenLis");
+        int clicked = -1;
+        for (ui::MenuItem& item : items) {
+            item.OnClick = [&clicked](int Index) {
+                clicked = Index;
+            };
+        }
+        QVERIFY(items[0].Checked() && !items[1].Checked());
+        items[1].Check();
+        QVERIFY(!items[0].Checked() && items[1].Checked());
+        QCOMPARE(clicked, -1);
+        Child<QAction>(*m_form, "MnuOpcDenLis(0)").trigger();
+        QCOMPARE(clicked, 0);
+        QVERIFY(items[0].Checked() && !items[1].Checked());
+        QVERIFY(m_form->All<ui::MenuItem>("MnuOpcTipLis")[0].Checked());
+    }
+
+    void a_menu_entry_has_its_function_key()
+    {
+        int clicked = 0;
+        m_form->The<ui::MenuItem>("MnuOpcLee").OnClick = [&clicked](int) {
+            ++clicked;
+        };
+        Open();
+        Press(Qt::Key_F1);
+        QCOMPARE(clicked, 1);
+    }
+
+    void the_access_key_of_a_menu_opens_it()
+    {
+        Open();
+        Press(Qt::Key_O, Qt::AltModifier);
+        QTRY_VERIFY(QApplication::activePopupWidget() != nullptr);
+        QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
+        QTRY_VERIFY(QApplication::activePopupWidget() == nullptr);
+    }
+};
+
+KELVORA_TEST_MAIN(tst_Form)
+#include "tst_Form.moc"

@@ -1,0 +1,62 @@
+#include "Random.h"
+
+#include <QTest>
+
+#include <set>
+
+class tst_Random : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void cleanup() { ui::FixSeed({}); }
+
+    void values_lie_from_zero_to_below_one()
+    {
+        ui::Randomize(1);
+        double sum = 0;
+        for (int i = 0; i < 100'000; ++i) {
+            const double value = ui::Rnd();
+            QVERIFY(value >= 0 && value < 1);
+            sum += value;
+        }
+        QVERIFY(std::abs(sum / 100'000 - 0.5) < 0.01);
+    }
+
+    void draws_cover_their_range_and_no_more()
+    {
+        ui::Randomize(2);
+        std::set<int> seen;
+        for (int i = 0; i < 10'000; ++i) {
+            seen.insert(ui::Draw(9, 2));
+        }
+        QCOMPARE(seen.size(), std::size_t(9));
+        QCOMPARE(*seen.begin(), 2);
+        QCOMPARE(*seen.rbegin(), 10);
+    }
+
+    void a_seed_repeats_its_draws()
+    {
+        ui::Randomize(3);
+        const double first = ui::Rnd();
+        ui::Randomize(3);
+        QCOMPARE(ui::Rnd(), first);
+        ui::Randomize(4);
+        QVERIFY(ui::Rnd() != first);
+    }
+
+    void a_fixed_seed_wins()
+    {
+        ui::FixSeed(5);
+        ui::Randomize(3);
+        const double first = ui::Rnd();
+        ui::Randomize(4);
+        QCOMPARE(ui::Rnd(), first);
+        ui::FixSeed({});
+        ui::Randomize(4);
+        QVERIFY(ui::Rnd() != first);
+    }
+};
+
+QTEST_APPLESS_MAIN(tst_Random)
+#include "tst_Random.moc"

@@ -1,0 +1,282 @@
+#include "SampleForm.h"
+#include "Support.h"
+
+#include <QClipboard>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+
+using namespace support;
+using ui::KeyResult;
+
+class tst_TextBox : public QObject
+{
+    Q_OBJECT
+
+private:
+    std::unique_ptr<sample::SampleForm> m_form;
+
+    ui::TextBox& Editable() const { return m_form->All<ui::TextBox>("Text1")[0]; }
+    ui::TextBox& Locked() const { return m_form->All<ui::TextBox>("Text1")[1]; }
+    ui::TextBox& Lines() const { return m_form->The<ui::TextBox>("TbDesco"); }
+
+private slots:
+    void init()
+    {
+        m_form = std::make_unique<sample::SampleForm>();
+        m_form->setAttribute(Qt::WA_DeleteOnClose, false);
+        m_form->Open(ui::Modality::Modeless);
+        QVERIFY(WaitActive(*m_form));
+    }
+    void cleanup() { m_form.reset(); }
+
+    void keeps_texts_of_several_lines_to_the_character_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addRow("rows") << "     |    \r\n     |    \r\n";
+        QTest::addRow("lone CR") << "a\rb";
+        QTest::addRow("lone LF") << "a\nb";
+        QTest::addRow("LF CR") << "a\n\rb";
+        QTest::addRow("CR CR LF") << "\r\r\n";
+        QTest::addRow("ends with CR") << "ab\r";
+        QTest::addRow("no-break space") << QString::fromUtf8("a\u00a0b");
+        QTest::addRow("accents") << "ñandú\r\n¿?";
+        QTest::addRow("empty") << "";
+    }
+    void keeps_texts_of_several_lines_to_the_character()
+    {
+        QFETCH(QString, text);
+        Lines().Text(text.toStdString());
+        QCOMPARE(QString::fromStdString(Lines().Text()), text);
+        for (int at = 0; at <= text.size(); ++at) {
+            if (at > 0 && at < text.size() && text.mid(at - 1, 2) == "\r\n") {
+                continue; // no caret stands inside a line end
+            }
+            Lines().Select(at, 0);
+            QCOMPARE(Lines().SelStart(), at);
+            QCOMPARE(Lines().SelLength(), 0);
+        }
+        Lines().Select(0, static_cast<int>(text.size()));
+        QCOMPARE(Lines().SelStart(), 0);
+        QCOMPARE(Lines().SelLength(), text.size());
+    }
+
+    void typed_line_ends_are_cr_and_lf()
+    {
+        Lines().Text("");
+        Lines().SetFocus();
+        Type("a");
+        Press(Qt::Key_Return);
+        Type("b");
+        QCOMPARE(Lines().Text(), "a\r\nb");
+        QCOMPARE(Lines().SelStart(), 4);
+        QApplication::clipboard()->setText("1\n2");
+        Press(Qt::Key_V, Qt::ControlModifier);
+        QCOMPARE(Lines().Text(), "a\r\nb1\r\n2");
+    }
+
+    void change_runs_at_once_for_another_text_and_not_for_the_same()
+    {
+        QStringList seen;
+        for (ui::TextBox* box : {&Editable(), &Lines()}) {
+            seen.clear();
+            box->OnChange = [&seen, box](int Index) {
+                seen += QString("%1 %2").arg(Index).arg(QString::fromStdString(box->Text()));
+            };
+            box->Text("x");
+            seen += "after";
+            box->Text("x");
+            QCOMPARE(seen, QStringList({QString("%1 x").arg(box->Index()), "after"}));
+        }
+    }
+
+    void change_may_correct_the_text_nested()
+    {
+        int runs = 0;
+        Editable().OnChange = [this, &runs](int) {
+            ++runs;
+            if (Editable().Number() > 10) {
+                Editable().Text("10");
+            }
+        };
+        Editable().Text("");
+        Editable().SetFocus();
+        runs = 0;
+        Type("12");
+        QCOMPARE(Editable().Text(), "10");
+        QCOMPARE(runs, 3); // "1", "12" and, inside that, "10"
+    }
+
+    void key_press_gives_character_codes_on_locked_boxes_too()
+    {
+        for (ui::TextBox* box : {&Editable(), &Locked(), &Lines()}) {
+            QList<int> codes;
+            box->OnKeyPress = [&codes](int, int KeyAscii) {
+                codes += KeyAscii;
+                return KeyResult::Swallow;
+            };
+            box->SetFocus();
+            const std::string before = box->Text();
+            Type("7aÑ");
+            Press(Qt::Key_Backspace);
+            Press(Qt::Key_Return);
+            Press(Qt::Key_Enter);
+            Press(Qt::Key_Escape);
+            Press(Qt::Key_C, Qt::ControlModifier);
+            Press(Qt::Key_Left);
+            Press(Qt::Key_F5);
+            Press(Qt::Key_Delete);
+            QCOMPARE(codes, QList<int>({'7', 'a', 0xD1, 8, 13, 13, 27, 3}));
+            if (box != &Lines()) {
+                continue; // Delete took a character of the ladder, as no handler swallowed it
+            }
+            QCOMPARE(before, "a\r\nb");
+        }
+    }
+
+    void key_down_comes_before_key_press_and_may_swallow_both()
+    {
+        QStringList seen;
+        Editable().OnKeyDown = [&seen](int Index, int KeyCode, int Shift) {
+            seen += QString("down %1 %2 %3").arg(Index).arg(KeyCode).arg(Shift);
+            return KeyCode == '8' ? KeyResult::Swallow : KeyResult::Pass;
+        };
+        Editable().OnKeyPress = [&seen](int Index, int KeyAscii) {
+            seen += QString("press %1 %2").arg(Index).arg(KeyAscii);
+            return KeyResult::Pass;
+        };
+        Editable().Text("");
+        Editable().SetFocus();
+        Type("78");
+        QCOMPARE(seen, QStringList({"down 0 55 0", "press 0 55", "down 0 56 0"}));
+        QCOMPARE(Editable().Text(), "7");
+    }
+
+    void committed_input_passes_the_key_handler()
+    {
+        QList<int> codes;
+        Editable().OnKeyPress = [&codes](int, int KeyAscii) {
+            codes += KeyAscii;
+            return KeyAscii == 'x' ? KeyResult::Swallow : KeyResult::Pass;
+        };
+        Editable().Text("");
+        Editable().SetFocus();
+        const auto commit = [](const QString& text) {
+            QInputMethodEvent event;
+            event.setCommitString(text);
+            QCoreApplication::sendEvent(QApplication::focusWidget(), &event);
+        };
+        commit(QString::fromUtf8("é"));
+        commit("x");
+        QCOMPARE(codes, QList<int>({0xE9, 'x'}));
+        QCOMPARE(Editable().Text(), "é");
+    }
+
+    void tab_selects_nothing_and_puts_the_caret_at_the_start_after_the_focus_is_known()
+    {
+        Editable().SetFocus();
+        Editable().Select(3, 0);
+        Press(Qt::Key_Backtab, Qt::ShiftModifier);
+        QCOMPARE(Focus(), "Text1(1)");
+        Press(Qt::Key_Tab);
+        QCOMPARE(Focus(), "Text1(0)");
+        QCOMPARE(Editable().SelStart(), 3); // moved only when the focus event has gone out
+        Settle();
+        QCOMPARE(Editable().SelStart(), 0);
+        QCOMPARE(Editable().SelLength(), 0);
+    }
+
+    void numbers_are_read_leniently_and_written_plainly()
+    {
+        Editable().Text(" 1 2abc");
+        QCOMPARE(Editable().Number(), 12.0);
+        Editable().Text(-30000);
+        QCOMPARE(Editable().Text(), "-30000");
+    }
+
+    void a_locked_box_shows_its_caret_and_can_be_walked()
+    {
+        Locked().SetFocus();
+        auto& edit = Child<QLineEdit>(*m_form, "Text1(1)");
+        QCOMPARE(edit.cursorPosition(), 0);
+        Press(Qt::Key_Right);
+        QCOMPARE(edit.cursorPosition(), 1);
+        Press(Qt::Key_End);
+        QCOMPARE(edit.cursorPosition(), 3);
+    }
+
+    void a_long_message_is_drawn_on_several_lines_while_unfocused()
+    {
+        auto& edit = Child<QLineEdit>(*m_form, "TbMensajes");
+        m_form->The<ui::TextBox>("TbMensajes").Text("corto");
+        const QImage brief = edit.grab().toImage();
+        m_form->The<ui::TextBox>("TbMensajes").Text("noventa y nueve noventa y ochoavos+noventa y siete");
+        const QImage long_ = edit.grab().toImage();
+        const auto rows = [](const QImage& image) {
+            int groups = 0;
+            bool inside = false;
+            for (int y = 3; y < image.height() - 3; ++y) {
+                bool type = false;
+                for (int x = 4; x < image.width() - 4; ++x) {
+                    type = type || qGray(image.pixel(x, y)) < 100;
+                }
+                groups += type && !inside ? 1 : 0;
+                inside = type;
+            }
+            return groups;
+        };
+        QCOMPARE(rows(brief), 1);
+        QVERIFY(rows(long_) >= 2);
+        QCOMPARE(edit.text(), "noventa y nueve noventa y ochoavos+noventa y siete");
+    }
+
+    void boxes_in_the_colours_of_selection_can_be_read_in_every_theme()
+    {
+        QPalette theme;
+        for (const QColor background : {QColor(0x30, 0x8c, 0xc6), QColor(0x3d, 0xae, 0xe9), QColor(0, 0, 0x80)}) {
+            theme.setColor(QPalette::Highlight, background);
+            theme.setColor(QPalette::HighlightedText, Qt::white);
+            QApplication::setPalette(theme);
+            Settle();
+            const QPalette colors = Child<QLineEdit>(*m_form, "Text3").palette();
+            QCOMPARE(colors.color(QPalette::Base), background);
+            QVERIFY(ui::Contrast(colors.color(QPalette::Base), colors.color(QPalette::Text)) >= 4.5);
+        }
+        QApplication::setPalette(QPalette());
+    }
+
+    void the_reader_gets_one_run_of_attributes_over_the_whole_text()
+    {
+        Editable().Text("12");
+        auto* interface = QAccessible::queryAccessibleInterface(&Child<QLineEdit>(*m_form, "Text1(0)"));
+        QCOMPARE(interface->role(), QAccessible::EditableText);
+        QCOMPARE(interface->text(QAccessible::Value), "12");
+        auto* text = interface->textInterface();
+        QVERIFY(text != nullptr);
+        QCOMPARE(text->text(0, 2), "12");
+        QCOMPARE(text->characterCount(), 2);
+#if QT_VERSION < QT_VERSION_CHECK(6, 8, 0)
+        int start = -1;
+        int end = -1;
+        text->attributes(1, &start, &end);
+        QCOMPARE(start, 0);
+        QCOMPARE(end, 2);
+#endif
+        QVERIFY(!interface->state().readOnly);
+        QVERIFY(QAccessible::queryAccessibleInterface(&Child<QLineEdit>(*m_form, "Text1(1)"))->state().readOnly);
+        text->setCursorPosition(1);
+        QCOMPARE(text->cursorPosition(), 1);
+        text->addSelection(0, 2);
+        int from = 0;
+        int to = 0;
+        text->selection(0, &from, &to);
+        QCOMPARE(to - from, 2);
+        interface->editableTextInterface()->insertText(2, "7");
+        QCOMPARE(Editable().Text(), "127");
+        interface->editableTextInterface()->deleteText(0, 1);
+        QCOMPARE(Editable().Text(), "27");
+        QVERIFY(text->characterRect(1).left() > text->characterRect(0).left());
+    }
+};
+
+KELVORA_TEST_MAIN(tst_TextBox)
+#include "tst_TextBox.moc"
