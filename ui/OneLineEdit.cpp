@@ -9,7 +9,7 @@ namespace ui {
 namespace {
 
 constexpr int smallestType = 9; // pixels
-constexpr int smallestOnOneLine = 11;
+constexpr int smallestBeforeWrapping = 11;
 constexpr int qtMargin = 2;   // what Qt leaves free at the left and right of the text
 constexpr int leftMargin = 5; // of texts that are not centred
 constexpr int wrapping = Qt::AlignLeft | Qt::AlignVCenter | Qt::TextWordWrap;
@@ -116,16 +116,13 @@ void OneLineEdit::Fit()
     }
     const QRect area = TextArea();
     const QSize room = area.size() - QSize(1, 0); // for the caret
+    const int smallestOnOneLine = isReadOnly() ? smallestBeforeWrapping : smallestType;
     const QFont onOneLine = Fitting(m_fullFont, text(), room, Qt::TextSingleLine, smallestOnOneLine);
     const bool fits = QFontMetrics(onOneLine).horizontalAdvance(text()) <= room.width();
-    m_wraps = !fits && isReadOnly();
-    if (m_wraps) {
-        m_wrappedFont = Fitting(m_fullFont, text(), room, wrapping, smallestType);
-    }
-    const QFont fitting =
-        fits || isReadOnly() ? onOneLine : Fitting(m_fullFont, text(), room, Qt::TextSingleLine, smallestType);
-    if (fitting != font()) {
-        setFont(fitting);
+    m_wrappedFont = Fitting(m_fullFont, text(), room, wrapping, smallestType);
+    m_wraps = isReadOnly() && (!fits || m_wrappedFont.pixelSize() > onOneLine.pixelSize());
+    if (onOneLine != font()) {
+        setFont(onOneLine);
     }
     setTextMargins(area.left() - qtMargin, area.top(), area.left() - qtMargin, height() - 1 - area.bottom());
     update();
