@@ -8,9 +8,11 @@ function(kelvora_library name)
     kelvora_warnings(${name})
 endfunction()
 
+set(KELVORA_CONVERSION_WARNING -Wconversion)
+
 function(kelvora_warnings target)
     if(CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang")
-        target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wshadow -Wconversion
+        target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wshadow ${KELVORA_CONVERSION_WARNING}
                                                  -Wnon-virtual-dtor -Woverloaded-virtual)
     endif()
 endfunction()

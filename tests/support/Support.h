@@ -55,11 +55,11 @@ void WithDialog(const std::function<void()>& action, const std::function<void(QW
 
 // The child of this name, which must exist.
 template <class T>
-T& Child(const QWidget& window, const QString& name)
+T& Child(const QWidget& window, QAnyStringView name)
 {
-    auto* child = window.findChild<T*>(name);
+    auto* child = window.findChild<T*>(name.toString());
     if (child == nullptr) {
-        qFatal("no %s", qPrintable(name));
+        qFatal("no %s", qPrintable(name.toString()));
     }
     return *child;
 }
