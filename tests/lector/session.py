@@ -156,13 +156,18 @@ class Session:
         """The lines that a braille display has shown, in order."""
         return re.findall(r"BRAILLE LINE:  '(.*)'$", self.orca_log.read_text(errors="replace"), re.MULTILINE)
 
+    def presented(self, text):
+        """Whether the reader has sent `text`, with "|" between lines, to the voice, be it heard to its end or not."""
+        log = self.orca_log.read_text(errors="replace")
+        return f"SPEECH OUTPUT: '{text}'" in re.sub(r"\r?\n +(?=\S)", "|", log)
+
     def wait_heard(self, text):
         """Waits until a text with `text` in it has been spoken to its end since the last `heard`."""
         wait_for(lambda: any(line.startswith("END ") and text in line for line in self._lines()[self._read:]),
                  f"the voice to say {text!r}")
 
     def _lines(self):
-        return self.transcript.read_text().splitlines()
+        return self.transcript.read_text(errors="replace").splitlines()
 
     def run(self, *command, **env):
         self.env |= env
@@ -196,6 +201,8 @@ class Session:
         for line in new:
             if line.startswith("START "):
                 text = line[6:]
+                if "\N{REPLACEMENT CHARACTER}" in text or not text.isprintable():
+                    continue  # what Speech Dispatcher 0.12 hands on for a single character or key is not its text
                 if text in ended:
                     ended.remove(text)
                     texts.append(text)
