@@ -174,10 +174,12 @@ private slots:
             Press(Qt::Key_Tab);
         }
         QCOMPARE(Focus(), order.front());
-        for (auto name = order.rbegin(); name != order.rend(); ++name) {
+        QStringList back;
+        do {
             Press(Qt::Key_Backtab, Qt::ShiftModifier);
-            QCOMPARE(Focus(), *name);
-        }
+            back.prepend(Focus());
+        } while (Focus() != order.front() && back.size() < order.size());
+        QCOMPARE(back, order);
     }
 
     void only_the_result_boxes_accept_typing()
@@ -852,7 +854,7 @@ private slots:
     void button_faces_have_exactly_their_colours()
     {
         const auto face = [this](const QString& name) {
-            QWidget& button = Child<QWidget>(*m_form, name);
+            auto& button = Child<QWidget>(*m_form, name);
             return button.grab().toImage().pixelColor(button.width() / 2, button.height() - 8);
         };
         QCOMPARE(face("Command1"), QColor(255, 255, 0));
