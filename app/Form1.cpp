@@ -105,7 +105,7 @@ void Form1::Command1_Click(int Index)
         ui::End();
         return;
     }
-    QPointer<ui::Form>& screen = m_open.at(Index);
+    QPointer<ui::Form>& screen = m_open[Index];
     if (screen) {
         screen->BringForward();
         return;

@@ -6,7 +6,7 @@
 
 #include <QPointer>
 
-#include <array>
+#include <map>
 
 namespace app {
 
@@ -23,7 +23,7 @@ private:
 
     const ui::ControlArray<ui::Button> Command1 = All<ui::Button>("Command1");
 
-    std::array<QPointer<ui::Form>, 11> m_open; // by the button's index
+    std::map<int, QPointer<ui::Form>> m_open; // by the button's index
 };
 
 } // namespace app

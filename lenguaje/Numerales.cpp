@@ -23,7 +23,7 @@ constexpr std::array<string_view, 11> centenas{"ciento ",      "doscientos ",  "
                                                "quinientos ",  "seiscientos ", "setecientos ", "ochocientos ",
                                                "novecientos ", "mil",          "cien"};
 
-// "Sexto" has its capital, and "dieciseisavo" no accent beside "dieciséis": voices and pupils are used to both.
+// "Sexto" has its capital, and "dieciseisavo" no accent beside "dieciséis": both are kept on purpose.
 constexpr TablasNumerales tablas{
     .Unidades = {"",        "uno",    "dos",       "tres",       "cuatro",    "cinco",      "seis",
                  "siete",   "ocho",   "nueve",     "diez",       "once",      "doce",       "trece",

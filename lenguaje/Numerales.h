@@ -9,8 +9,7 @@
 namespace lenguaje {
 
 // Three ways of reading, which differ in what they do with negatives and with denominators above ten.
-enum class Variante
-{
+enum class Variante {
     Base,     // a denominator above 10 is the cardinal and "avo"; a negative value is "cero"
     ConMenos, // as Base, but a negative value is "menos " and the words of its absolute value
     Entera,   // a denominator is made of the fraction names whatever its size; a negative value is "cero"

@@ -1,4 +1,4 @@
-// Numbers out of texts and back. The pupil's answers pass through here.
+// Numbers out of texts, as lenient as pupils are careless.
 #pragma once
 
 #include <string_view>

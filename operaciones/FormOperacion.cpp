@@ -5,6 +5,7 @@
 #include "Lectura.h"
 #include "Random.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace operaciones {

@@ -6,16 +6,6 @@ fail() {
     exit 1
 }
 
-as_root() {
-    if [ "$(id -u)" -eq 0 ]; then
-        "$@"
-    elif command -v sudo >/dev/null; then
-        sudo "$@"
-    else
-        fail "se necesitan permisos de administrador (root o sudo) para instalar paquetes"
-    fi
-}
-
 is_installed() {
     [ "$(dpkg-query -W -f='${db:Status-Status}' "$1" 2>/dev/null)" = installed ]
 }
@@ -23,15 +13,20 @@ is_installed() {
 # need PACKAGE...: installs what is missing of Debian's packages.
 need() {
     command -v dpkg-query >/dev/null || fail "este programa instala sus dependencias solo en Debian 12 o posterior"
-    local missing=() package log
+    local missing=() package log root=()
     for package in "$@"; do
         is_installed "$package" || missing+=("$package")
     done
     [ ${#missing[@]} -eq 0 ] && return
+    if [ "$(id -u)" -ne 0 ]; then
+        command -v sudo >/dev/null ||
+            fail "faltan paquetes y para instalarlos se necesita ser root o tener sudo: ${missing[*]}"
+        root=(sudo)
+    fi
     echo "Instalando: ${missing[*]}"
     log=$(mktemp)
-    as_root apt-get update >"$log" 2>&1 &&
-        as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y --no-install-recommends "${missing[@]}" \
+    "${root[@]}" apt-get update >"$log" 2>&1 &&
+        "${root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y --no-install-recommends "${missing[@]}" \
             >>"$log" 2>&1 </dev/null ||
         fail "no se ha podido instalar: ${missing[*]} (detalles en $log)"
     rm -f "$log"
@@ -39,14 +34,15 @@ need() {
 
 build_packages=(g++ cmake ninja-build qt6-base-dev qt6-base-dev-tools libgl-dev)
 run_packages=(qt6-translations-l10n fonts-liberation at-spi2-core)
+test_packages=(qt6-base-private-dev strace xvfb openbox xdotool dbus-daemon locales python3 orca speech-dispatcher
+    speech-dispatcher-audio-plugins python3-speechd python3-pyatspi)
 
-# build PRESET [CMAKE-OPTION...]: configures what is not, and builds what is not up to date.
+# build PRESET: configures what is not, and builds what is not up to date.
 build() {
     local preset=$1 log
-    shift
     log=build/$preset.log
     mkdir -p build
-    { [ -f "build/$preset/build.ninja" ] && [ $# -eq 0 ] || cmake --preset "$preset" "$@"; } >"$log" 2>&1 &&
+    { [ -f "build/$preset/build.ninja" ] || cmake --preset "$preset"; } >"$log" 2>&1 &&
         cmake --build --preset "$preset" >>"$log" 2>&1 ||
         { tail -n 40 "$log" >&2; fail "la compilación ha fallado (todo en $log)"; }
 }

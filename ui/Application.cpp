@@ -7,6 +7,9 @@
 #include <QKeyEvent>
 #include <QLibraryInfo>
 #include <QLocale>
+#include <QThread>
+
+#include <cstdlib>
 
 namespace ui {
 
@@ -25,6 +28,9 @@ Application::Application(int& argc, char** argv) : QApplication(argc, argv)
 
 bool Application::notify(QObject* receiver, QEvent* event)
 {
+    if (receiver->thread() != thread()) { // Qt has threads of its own
+        return QApplication::notify(receiver, event);
+    }
     const QEvent::Type type = event->type(); // the event may be gone when it has been handled
     if (IsLateAlt(*event)) {
         return true;

@@ -32,10 +32,14 @@ bool FaceButton::event(QEvent* event)
 {
     // Qt would show the button pressed for 100 ms first, and all that the pupil is to hear would come late. An access
     // key that several buttons share is left to Qt, which moves the focus round them and presses none.
-    if (event->type() == QEvent::Shortcut && !static_cast<QShortcutEvent*>(event)->isAmbiguous()) {
-        setFocus(Qt::ShortcutFocusReason);
-        click();
-        return true;
+    if (event->type() == QEvent::Shortcut) {
+        const auto* shortcut = static_cast<QShortcutEvent*>(event);
+        setShortcutAutoRepeat(shortcut->shortcutId(), false); // a key held down presses once
+        if (!shortcut->isAmbiguous()) {
+            setFocus(Qt::ShortcutFocusReason);
+            click();
+            return true;
+        }
     }
     return QPushButton::event(event);
 }

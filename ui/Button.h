@@ -5,6 +5,8 @@
 
 #include <QPushButton>
 
+#include <functional>
+
 namespace ui {
 
 // The face is exactly the given colour and the caption black, whatever the desktop's theme. The access key and Enter

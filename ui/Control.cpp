@@ -2,6 +2,7 @@
 
 #include "Strings.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace ui {
@@ -29,19 +30,25 @@ void Control::Enabled(bool enabled)
 void Control::Move(const Place& place)
 {
     m_place = place;
-    Scale(m_scale, m_origin);
+    PutInPlace();
 }
 
 void Control::Scale(double scale, const QPoint& origin)
 {
     m_scale = scale;
+    m_typeScale = scale;
     m_origin = origin;
-    const QRect place = ToPixels(m_place, scale);
-    m_widget.setGeometry(place.translated(origin));
+    PutInPlace();
+}
+
+void Control::PutInPlace()
+{
+    const QRect place = ToPixels(m_place, m_scale);
+    m_widget.setGeometry(place.translated(m_origin));
     m_widget.setFont(Font());
     if (m_design.coveredTop != 0 || m_design.coveredBottom != 0) {
-        const int top = ToPixels({0, 0, 0, m_design.coveredTop}, scale).height();
-        const int bottom = ToPixels({0, 0, 0, m_design.coveredBottom}, scale).height();
+        const int top = ToPixels({0, 0, 0, m_design.coveredTop}, m_scale).height();
+        const int bottom = ToPixels({0, 0, 0, m_design.coveredBottom}, m_scale).height();
         m_widget.setMask(QRect(0, top, place.width(), place.height() - top - bottom));
     }
 }
@@ -59,7 +66,7 @@ KeyResult Control::KeyPressed(int)
 QFont Control::Font() const
 {
     QFont font(ToQString(m_design.font));
-    font.setPixelSize(std::max(1, static_cast<int>(std::lround(m_design.points * pixelsPerPoint * m_scale))));
+    font.setPixelSize(std::max(1, static_cast<int>(std::lround(m_design.points * pixelsPerPoint * m_typeScale))));
     return font;
 }
 

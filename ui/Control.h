@@ -33,7 +33,10 @@ public:
 
     // Draws the control, its place and its type, `scale` times as large as designed. `origin` is the pixel from which
     // its place is measured.
-    virtual void Scale(double scale, const QPoint& origin);
+    void Scale(double scale, const QPoint& origin);
+
+    // Draws the type alone `scale` times as large as designed, from the next placing on.
+    void ScaleType(double scale) { m_typeScale = scale; }
 
     // Takes the colours that follow the desktop's theme anew.
     virtual void TakeColors() {}
@@ -43,6 +46,9 @@ public:
     virtual KeyResult KeyPressed(int keyAscii);
 
 protected:
+    // Gives the widget its place and its type at the present scale.
+    virtual void PutInPlace();
+
     // The design's font in pixels at the present scale.
     QFont Font() const;
 
@@ -51,6 +57,7 @@ private:
     QWidget& m_widget;
     Place m_place;
     double m_scale = 1;
+    double m_typeScale = 1;
     QPoint m_origin;
 };
 

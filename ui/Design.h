@@ -12,35 +12,18 @@ namespace ui {
 inline constexpr int noIndex = -1;
 inline constexpr int noTab = -1;
 
-enum class Kind
-{
-    OneLine,
-    MultiLine,
-    Button,
-    Label,
-    Frame,
-    Line
-};
-enum class Typing
-{
-    Editable,
-    Locked
-}; // a locked box takes focus and caret, but no typing
-enum class Speaking
-{
-    Silent,
-    Spoken
-}; // of a spoken box, whatever the program writes to it is announced
-enum class Coloring
-{
-    Plain,
-    Selection
-}; // the desktop's colours for text boxes or for selected text
-enum class Alignment
-{
-    Left,
-    Center
-};
+enum class Kind { OneLine, MultiLine, Button, Label, Frame, Line };
+
+// A locked box takes focus and caret, but no typing.
+enum class Typing { Editable, Locked };
+
+// Whatever the program writes to a spoken box is announced.
+enum class Speaking { Silent, Spoken };
+
+// The desktop's colours for text boxes, or those for selected text.
+enum class Coloring { Plain, Selection };
+
+enum class Alignment { Left, Center };
 
 struct ControlDesign
 {
@@ -63,12 +46,7 @@ struct ControlDesign
     int coveredBottom = 0;
 };
 
-enum class Checking
-{
-    None,
-    Unchecked,
-    Checked
-};
+enum class Checking { None, Unchecked, Checked };
 
 // Menus are listed as they are read: an entry of depth n + 1 belongs to the last one of depth n before it. Entries with
 // the same name and an index are one array, of which exactly one is checked.
@@ -83,8 +61,7 @@ struct MenuDesign
 };
 
 // What happens to the controls when the window changes its size.
-enum class Resizing
-{
+enum class Resizing {
     Scale, // everything grows and shrinks by one factor, in the middle of the window
     Own,   // the screen places its controls itself, in Form_Resize
 };

@@ -10,11 +10,7 @@ namespace ui {
 // Shows `text` with the button "Aceptar".
 void MsgBox(std::string_view text, std::string_view title = {});
 
-enum class Answer
-{
-    Yes,
-    No
-};
+enum class Answer { Yes, No };
 
 // Asks with "Sí" and "No" beside an exclamation mark. Escape and closing the box answer No.
 Answer MsgBoxYesNo(std::string_view question, std::string_view title = {});

@@ -1,11 +1,11 @@
 // What a text box needs of its widget, be it one line or several.
 #pragma once
 
+#include <QObject>
 #include <QString>
 
 #include <functional>
-
-class QFont;
+#include <utility>
 
 namespace ui {
 
@@ -28,8 +28,26 @@ public:
     virtual int SelLength() const = 0;
     virtual void Select(int start, int length) = 0;
 
+    // Puts the caret at the start, but not before the screen reader has been told of the focus: a caret that moves
+    // first is all that it would notice. A key that comes before that finds the caret there too (SettleCaret).
+    void CaretToStart(QObject& widget)
+    {
+        m_caretIsMoving = true;
+        QMetaObject::invokeMethod(
+            &widget, [this] { SettleCaret(); }, Qt::QueuedConnection);
+    }
+    void SettleCaret()
+    {
+        if (std::exchange(m_caretIsMoving, false)) {
+            Select(0, 0);
+        }
+    }
+
     // Called when the pupil, and not the program, has changed the text.
     std::function<void()> edited;
+
+private:
+    bool m_caretIsMoving = false;
 };
 
 } // namespace ui

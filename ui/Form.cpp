@@ -158,13 +158,16 @@ void Form::ChainTabOrder()
 
 void Form::Arrange()
 {
-    if (m_design.resizing == Resizing::Own) {
-        Form_Resize();
-        return;
-    }
     const QSize size = centralWidget()->size();
     const double scale = twipsPerPixel * std::min(static_cast<double>(size.width()) / m_design.width,
                                                   static_cast<double>(size.height()) / m_design.height);
+    if (m_design.resizing == Resizing::Own) {
+        for (const std::unique_ptr<Control>& control : m_controls) {
+            control->ScaleType(scale);
+        }
+        Form_Resize();
+        return;
+    }
     const QSize drawn = ToPixels({0, 0, m_design.width, m_design.height}, scale).size();
     const QPoint centred((size.width() - drawn.width()) / 2, (size.height() - drawn.height()) / 2);
     for (const std::unique_ptr<Control>& control : m_controls) {
@@ -175,16 +178,21 @@ void Form::Arrange()
 KeyResult Form::KeyPressed(Control& control, const QKeyEvent& event)
 {
     const int character = KeyAsciiOf(event);
-    // A finger that stays on Enter must not check the answer, or skip the exercise, many times.
-    if (character == KeyAscii::Enter && event.isAutoRepeat()) {
-        return KeyResult::Swallow;
-    }
     const int code = KeyCodeOf(event);
     const int shift = ShiftMaskOf(event);
     if (Form_KeyDown(code, shift) == KeyResult::Swallow || control.KeyDown(code, shift) == KeyResult::Swallow) {
         return KeyResult::Swallow;
     }
-    return character != 0 ? control.KeyPressed(character) : KeyResult::Pass;
+    if (character == 0) {
+        // Where no access key has taken it, a letter with Alt is none that a box may receive.
+        const bool withAlt = (shift & ShiftMask::Alt) != 0 && TypesText(event);
+        return withAlt ? KeyResult::Swallow : KeyResult::Pass;
+    }
+    // A finger that stays on Enter must not check the answer, or skip the exercise, many times.
+    if (character == KeyAscii::Enter && event.isAutoRepeat() && control.Design().kind != Kind::MultiLine) {
+        return KeyResult::Swallow;
+    }
+    return control.KeyPressed(character);
 }
 
 KeyResult Form::Committed(Control& control, const QString& text)

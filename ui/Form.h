@@ -10,16 +10,13 @@
 
 #include <QMainWindow>
 
+#include <algorithm>
 #include <memory>
 #include <vector>
 
 namespace ui {
 
-enum class Modality
-{
-    Modal,
-    Modeless
-};
+enum class Modality { Modal, Modeless };
 
 class Form : public QMainWindow
 {
@@ -84,6 +81,7 @@ private:
                 members.push_back(dynamic_cast<T&>(*one));
             }
         }
+        std::ranges::sort(members, {}, [](const T& member) { return member.Index(); });
     }
 
     void BuildControls();

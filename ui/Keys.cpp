@@ -39,6 +39,11 @@ int ShiftMaskOf(const QKeyEvent& event)
 
 int KeyAsciiOf(const QKeyEvent& event)
 {
+    const bool control = event.modifiers().testFlag(Qt::ControlModifier);
+    const bool alt = event.modifiers().testFlag(Qt::AltModifier);
+    if (alt && !control) {
+        return 0;
+    }
     switch (event.key()) {
     case Qt::Key_Backspace:
         return KeyAscii::Backspace;
@@ -50,15 +55,16 @@ int KeyAsciiOf(const QKeyEvent& event)
     default:
         break;
     }
-    const Qt::KeyboardModifiers held = event.modifiers();
-    if (held.testFlag(Qt::AltModifier)) {
-        return 0;
-    }
-    if (held.testFlag(Qt::ControlModifier) && event.key() >= Qt::Key_A && event.key() <= Qt::Key_Z) {
+    if (control && !alt && event.key() >= Qt::Key_A && event.key() <= Qt::Key_Z) {
         return event.key() - Qt::Key_A + 1;
     }
+    return TypesText(event) ? event.text().front().unicode() : 0;
+}
+
+bool TypesText(const QKeyEvent& event)
+{
     const QString text = event.text();
-    return !text.isEmpty() && text.front().isPrint() ? text.front().unicode() : 0;
+    return !text.isEmpty() && text.front().isPrint();
 }
 
 } // namespace ui

@@ -29,11 +29,7 @@ inline constexpr int Escape = 27;
 } // namespace KeyAscii
 
 // What a handler does with a key press: lets the control have it, or keeps it for itself.
-enum class KeyResult
-{
-    Pass,
-    Swallow
-};
+enum class KeyResult { Pass, Swallow };
 
 // Letters and digits have the code of their capital character; 0 for a key that no screen answers to.
 int KeyCodeOf(const QKeyEvent& event);
@@ -42,7 +38,11 @@ int KeyCodeOf(const QKeyEvent& event);
 int ShiftMaskOf(const QKeyEvent& event);
 
 // The character that a key press types: printable characters, Backspace, Enter, Escape, and 1 to 26 for Control with a
-// letter. 0 for keys that type none (cursor keys, function keys, Tab, anything with Alt).
+// letter. 0 for keys that type none (cursor keys, function keys, Tab, anything with Alt, unless Control is held too:
+// some systems give AltGr as both).
 int KeyAsciiOf(const QKeyEvent& event);
+
+// Whether the key has a printable character, whatever the modifiers.
+bool TypesText(const QKeyEvent& event);
 
 } // namespace ui

@@ -77,7 +77,7 @@ void MultiLineEdit::focusInEvent(QFocusEvent* event)
 {
     QPlainTextEdit::focusInEvent(event);
     if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason) {
-        moveCursor(QTextCursor::Start);
+        CaretToStart(*this);
     }
 }
 

@@ -23,8 +23,8 @@ OneLineEdit::OneLineEdit(const ControlDesign& design, QWidget* parent) : QLineEd
     setAlignment(design.alignment == Alignment::Center ? Qt::AlignCenter : Qt::AlignLeft | Qt::AlignVCenter);
     TakeColors();
     connect(this, &QLineEdit::textChanged, this, &OneLineEdit::Fit);
-    connect(this, &QLineEdit::textEdited, this, [this] {
-        if (edited) {
+    connect(this, &QLineEdit::textChanged, this, [this] {
+        if (edited && !m_writing) {
             edited();
         }
     });
@@ -32,8 +32,19 @@ OneLineEdit::OneLineEdit(const ControlDesign& design, QWidget* parent) : QLineEd
 
 void OneLineEdit::SetExactText(const QString& text)
 {
+    m_writing = true;
     setText(text);
+    m_writing = false;
     setCursorPosition(0);
+}
+
+void OneLineEdit::Select(int start, int length)
+{
+    if (length == 0) {
+        setCursorPosition(start);
+    } else {
+        setSelection(start, length);
+    }
 }
 
 void OneLineEdit::SetFullFont(const QFont& font)
@@ -65,9 +76,8 @@ void OneLineEdit::focusInEvent(QFocusEvent* event)
     QFocusEvent withoutSelecting(QEvent::FocusIn, Qt::OtherFocusReason);
     QLineEdit::focusInEvent(&withoutSelecting);
     if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason) {
-        // Not before the reader has been told of the focus: a caret that moves first is all it would notice.
-        QMetaObject::invokeMethod(
-            this, [this] { setCursorPosition(0); }, Qt::QueuedConnection);
+
+        CaretToStart(*this);
     }
 }
 

@@ -20,7 +20,7 @@ public:
     void SetExactText(const QString& text) override;
     int SelStart() const override { return hasSelectedText() ? selectionStart() : cursorPosition(); }
     int SelLength() const override { return static_cast<int>(selectedText().size()); }
-    void Select(int start, int length) override { setSelection(start, length); }
+    void Select(int start, int length) override;
 
     // The type that the box has when its text is short.
     void SetFullFont(const QFont& font);
@@ -41,6 +41,7 @@ private:
     QFont m_fullFont;
     QFont m_wrappedFont;
     bool m_wraps = false;
+    bool m_writing = false;
 };
 
 } // namespace ui

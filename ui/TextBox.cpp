@@ -61,9 +61,9 @@ double TextBox::Number() const
     return numeros::Val(Text());
 }
 
-void TextBox::Scale(double scale, const QPoint& origin)
+void TextBox::PutInPlace()
 {
-    Control::Scale(scale, origin);
+    Control::PutInPlace();
     if (auto* oneLine = qobject_cast<OneLineEdit*>(&Widget())) {
         oneLine->SetFullFont(Font());
     }
@@ -78,6 +78,7 @@ void TextBox::TakeColors()
 
 KeyResult TextBox::KeyDown(int keyCode, int shift)
 {
+    m_edit.SettleCaret();
     return OnKeyDown ? OnKeyDown(Index(), keyCode, shift) : KeyResult::Pass;
 }
 

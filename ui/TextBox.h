@@ -4,6 +4,10 @@
 #include "Control.h"
 #include "EditWidget.h"
 
+#include <functional>
+#include <string>
+#include <utility>
+
 namespace ui {
 
 class TextBox final : public Control
@@ -27,7 +31,6 @@ public:
     int SelLength() const { return m_edit.SelLength(); }
     void Select(int start, int length) { m_edit.Select(start, length); }
 
-    void Scale(double scale, const QPoint& origin) override;
     void TakeColors() override;
     KeyResult KeyDown(int keyCode, int shift) override;
     KeyResult KeyPressed(int keyAscii) override;
@@ -36,6 +39,9 @@ public:
     std::function<KeyResult(int Index, int KeyCode, int Shift)> OnKeyDown;
     std::function<KeyResult(int Index, int KeyAscii)> OnKeyPress;
     std::function<void(int Index)> OnChange;
+
+protected:
+    void PutInPlace() override;
 
 private:
     TextBox(const ControlDesign& design, std::pair<QWidget*, EditWidget*> widget);

@@ -216,6 +216,7 @@ class Suma(unittest.TestCase):
             self.assertEqual(texts[0], "alerta Kelvora.")
             self.assertIn("Autores", texts[1])
             self.assertEqual(len(texts), 3)
+        self.assertTrue(self.session.presented("alerta Kelvora."))
 
     def test_without_announcements_the_suite_fails(self):
         """The suite proves itself: it is the announcements that it hears, and their absence does not pass."""

@@ -184,6 +184,7 @@ private slots:
 
     void only_the_result_boxes_accept_typing()
     {
+        QApplication::clipboard()->setText("5");
         for (const QString name : {"Text1(0)", "Text1(1)", "Text1(2)", "Text1(3)", "Text2(0)", "Text2(1)", "Text3",
                                    "TbMensajes", "tbResultados"}) {
             Box(name).setFocus();
@@ -718,13 +719,14 @@ private slots:
     void reading_keys_act_with_any_modifier()
     {
         SetOperands(3, 4, 1, 2);
-        for (const Qt::KeyboardModifiers held : {Qt::KeyboardModifiers(Qt::ShiftModifier), Qt::KeyboardModifiers(ctrl),
-                                                 Qt::ControlModifier | Qt::ShiftModifier}) {
+        for (const Qt::KeyboardModifiers held :
+             {Qt::KeyboardModifiers(Qt::ShiftModifier), Qt::KeyboardModifiers(ctrl),
+              Qt::KeyboardModifiers(Qt::AltModifier), Qt::ControlModifier | Qt::ShiftModifier}) {
             m_ear->Take();
             Press(Qt::Key_F2, held);
-            QCOMPARE(m_ear->TakeSaid().size(), 1);
+            QCOMPARE(m_ear->TakeSaid(), QStringList("tres cuartos"));
             Press(Qt::Key_F3, held);
-            QCOMPARE(m_ear->TakeSaid().size(), 1);
+            QCOMPARE(m_ear->TakeSaid(), QStringList(" tres cuartos+un medio="));
         }
     }
 
@@ -754,12 +756,16 @@ private slots:
     {
         SetOperands(3, 4, 1, 2);
         Answer("5", "8");
+        const QStringList words{"tres cuartos", "tres cuartos",  "un medio",
+                                "un medio",     "cinco octavos", "cinco octavos"};
         for (int box = 0; box < 6; ++box) {
             Text1(box).setFocus();
+            Press(Qt::Key_F3);
             m_ear->Take();
-            Press(Qt::Key_Left, ctrl);
-            QCOMPARE(Focus(), QString("Text1(%1)").arg((box + 4) % 6));
-            QCOMPARE(m_ear->TakeSaid().size(), 1);
+            Press(Qt::Key_Left, box % 2 == 0 ? ctrl : ctrl | Qt::ShiftModifier);
+            const int reached = (box + 4) % 6;
+            QCOMPARE(Focus(), QString("Text1(%1)").arg(reached));
+            QCOMPARE(m_ear->TakeSaid(), QStringList(words[reached]));
         }
     }
 
@@ -866,6 +872,40 @@ private slots:
     void the_verdict_is_drawn_in_the_colours_of_selected_text()
     {
         QCOMPARE(Box("Text3").palette().color(QPalette::Base), QApplication::palette().color(QPalette::Highlight));
+    }
+
+    void the_lower_buttons_stand_whole_in_front_of_what_they_cover()
+    {
+        Verdict("1", "7");
+        const QImage picture = m_form->centralWidget()->grab().toImage();
+        const QRect buttons = Child<QWidget>(*m_form, "Command2(0)").geometry();
+        const QRect verdict = Box("Text3").geometry();
+        QVERIFY(verdict.top() < buttons.bottom());
+        QCOMPARE(picture.pixelColor(buttons.left() + 5, buttons.top() + 3), QColor(0, 255, 255));
+        QCOMPARE(picture.pixelColor(buttons.left() + 5, verdict.top() + 6), QColor(0, 255, 255));
+        const QColor background = Box("Text3").palette().color(QPalette::Base);
+        QCOMPARE(picture.pixelColor(verdict.left() + 3, verdict.bottom() - 3), background);
+        const QRect gap(buttons.right() + 1, verdict.top(), 4, buttons.bottom() - verdict.top());
+        for (int x = gap.left(); x <= gap.right(); ++x) {
+            QVERIFY(picture.pixelColor(x, gap.center().y()) != background); // it does not show between the buttons
+        }
+        const int free = verdict.bottom() - buttons.bottom();
+        QVERIFY(QFontMetrics(Box("Text3").font()).height() <= free);
+        QVERIFY(Box("Text3").textMargins().top() >= buttons.bottom() - verdict.top());
+    }
+
+    void an_access_key_held_down_presses_once()
+    {
+        SetOperands(3, 7, 5, 7);
+        Answer("1", "7");
+        const auto press = [](bool again) {
+            QTest::simulateEvent(QApplication::focusWidget(), true, Qt::Key_H, Qt::AltModifier, "h", again);
+        };
+        press(false);
+        for (int i = 0; i < 5; ++i) {
+            press(true);
+        }
+        QCOMPARE(Text("tbResultados"), "Ejercicios:  1; Errores:  1");
     }
 
     void the_longest_values_show_whole()

@@ -2,6 +2,7 @@
 
 #include "Application.h"
 
+#include <QPointer>
 #include <QTimer>
 
 #include <private/qguiapplication_p.h>
@@ -110,7 +111,11 @@ void WithDialog(const std::function<void()>& action, const std::function<void(QW
         if (dialog != nullptr && dialog->isVisible()) {
             timer.stop();
             opened = true;
+            const QPointer<QWidget> guarded = dialog;
             answer(*dialog);
+            if (QTest::currentTestFailed() && guarded) {
+                guarded->close(); // a check in `answer` has failed before its last key
+            }
         }
     });
     timer.start(5);

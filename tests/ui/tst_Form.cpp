@@ -68,14 +68,19 @@ private slots:
         other.setAttribute(Qt::WA_DeleteOnClose, false);
         other.Open(ui::Modality::Modeless);
         QVERIFY(WaitActive(other));
-        Open(ui::Modality::Modal);
-        QCOMPARE(QApplication::activeModalWidget(), m_form.data());
         int clicks = 0;
         other.The<ui::Button>("CbUno").OnClick = [&clicks](int) {
             ++clicks;
         };
-        QTest::mouseClick(other.windowHandle(), Qt::LeftButton, {}, QPoint(50, 400));
-        QCOMPARE(clicks, 0);
+        const QWidget& button = Child<QWidget>(other, "CbUno");
+        const QPoint place = button.mapTo(&other, button.rect().center());
+        QTest::mouseClick(other.windowHandle(), Qt::LeftButton, {}, place);
+        QCOMPARE(clicks, 1);
+        Open(ui::Modality::Modal);
+        QCOMPARE(QApplication::activeModalWidget(), m_form.data());
+        QTest::mouseClick(other.windowHandle(), Qt::LeftButton, {}, place);
+        QTest::keyClick(other.windowHandle(), Qt::Key_Return);
+        QCOMPARE(clicks, 1);
     }
 
     void every_object_bears_its_name()
@@ -279,6 +284,26 @@ private slots:
         Open();
         Press(Qt::Key_F1);
         QCOMPARE(clicked, 1);
+    }
+
+    void an_alt_that_comes_after_its_access_key_does_not_lead_to_the_menus()
+    {
+        Open();
+        const auto alt = [this](QEvent::Type type, bool spontaneous) {
+            QKeyEvent event(type, Qt::Key_Alt, type == QEvent::KeyPress ? Qt::NoModifier : Qt::AltModifier);
+            if (spontaneous) {
+                QSpontaneKeyEvent::setSpontaneous(&event);
+            }
+            QCoreApplication::sendEvent(m_form->windowHandle(), &event);
+        };
+        // As they come with a screen reader on: the finger's, the access key, and the finger's once more.
+        alt(QEvent::KeyPress, true);
+        Press(Qt::Key_C, Qt::AltModifier);
+        alt(QEvent::KeyRelease, true);
+        alt(QEvent::KeyPress, false);
+        alt(QEvent::KeyRelease, false);
+        QCOMPARE(Focus(), "Command2(0)");
+        QVERIFY(m_form->menuBar()->activeAction() == nullptr);
     }
 
     void the_access_key_of_a_menu_opens_it()
