@@ -70,13 +70,9 @@ Form1::Form1()
             .resizing = ui::Resizing::Own})
 {
     for (ui::Button& button : Command1) {
-        button.OnClick = [this](int Index) {
-            Command1_Click(Index);
-        };
+        button.OnClick = [this](int Index) { Command1_Click(Index); };
     }
-    The<ui::MenuItem>("MnuAce").OnClick = [this](int) {
-        MnuAce_Click();
-    };
+    The<ui::MenuItem>("MnuAce").OnClick = [this](int) { MnuAce_Click(); };
 }
 
 void Form1::Form_Load()

@@ -12,9 +12,7 @@ numeros::Entero16 DenominadorComun(numeros::Entero16 d1, numeros::Entero16 d2)
     int a = d1.Valor();
     int b = d2.Valor();
     int m = 1;
-    const auto comun = [&a, &b](int p) {
-        return a % p == 0 && b % p == 0;
-    };
+    const auto comun = [&a, &b](int p) { return a % p == 0 && b % p == 0; };
     for (auto p = std::ranges::find_if(factores, comun); p != factores.end();
          p = std::ranges::find_if(factores, comun)) {
         m *= *p;

@@ -27,17 +27,13 @@ constexpr ui::MenuDesign menus[]{
 Form2::Form2() : FormOperacion({.name = "Form2", .caption = "SUMA DE FRACCIONES", .signo = "+", .menus = menus})
 {
     for (ui::MenuItem& item : MnuOpcDenLis) {
-        item.OnClick = [this](int Index) {
-            MnuOpcDenLis_Click(Index);
-        };
+        item.OnClick = [this](int Index) { MnuOpcDenLis_Click(Index); };
     }
 }
 
 void Form2::NuevosOperandos(int limite)
 {
-    const auto sortear = [limite] {
-        return ui::Draw(limite - 1, 2);
-    };
+    const auto sortear = [limite] { return ui::Draw(limite - 1, 2); };
     Text1[0].Text(sortear());
     Text1[1].Text(sortear());
     Text1[2].Text(sortear());
@@ -53,9 +49,7 @@ void Form2::NuevosOperandos(int limite)
 
 Fraccion Form2::CalcularSolucion() const
 {
-    const auto numero = [this](int indice) {
-        return numeros::Entero16::Redondeado(Text1[indice].Number());
-    };
+    const auto numero = [this](int indice) { return numeros::Entero16::Redondeado(Text1[indice].Number()); };
     const numeros::Entero16 d1 = numero(1);
     const numeros::Entero16 d2 = numero(3);
     if (d1 == d2) {

@@ -120,29 +120,17 @@ FormOperacion::FormOperacion(const Operacion& operacion)
 {
     Text2[0].Text(operacion.signo);
     for (ui::TextBox& box : Text1) {
-        box.OnKeyPress = [this](int Index, int KeyAscii) {
-            return Text1_KeyPress(Index, KeyAscii);
-        };
+        box.OnKeyPress = [this](int Index, int KeyAscii) { return Text1_KeyPress(Index, KeyAscii); };
     }
-    The<ui::Button>("Command1").OnClick = [this](int) {
-        Command1_Click();
-    };
+    The<ui::Button>("Command1").OnClick = [this](int) { Command1_Click(); };
     for (ui::Button& button : Command2) {
-        button.OnClick = [this](int Index) {
-            Command2_Click(Index);
-        };
+        button.OnClick = [this](int Index) { Command2_Click(Index); };
     }
     for (ui::MenuItem& item : MnuOpcCanLis) {
-        item.OnClick = [this](int Index) {
-            MnuOpcCanLis_Click(Index);
-        };
+        item.OnClick = [this](int Index) { MnuOpcCanLis_Click(Index); };
     }
-    The<ui::MenuItem>("MnuOpcTec").OnClick = [this](int) {
-        MnuOpcTec_Click();
-    };
-    The<ui::MenuItem>("MnuOpcSal").OnClick = [this](int) {
-        close();
-    };
+    The<ui::MenuItem>("MnuOpcTec").OnClick = [this](int) { MnuOpcTec_Click(); };
+    The<ui::MenuItem>("MnuOpcSal").OnClick = [this](int) { close(); };
 }
 
 void FormOperacion::Form_Load()

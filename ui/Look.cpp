@@ -24,9 +24,7 @@ double Luminance(const QColor& color)
 
 QRect ToPixels(const Place& place, double scale)
 {
-    const auto pixels = [scale](int twips) {
-        return static_cast<int>(std::lround(twips * scale / twipsPerPixel));
-    };
+    const auto pixels = [scale](int twips) { return static_cast<int>(std::lround(twips * scale / twipsPerPixel)); };
     const QPoint topLeft(pixels(place.left), pixels(place.top));
     const QPoint end(pixels(place.left + place.width), pixels(place.top + place.height));
     return {topLeft, QSize(end.x() - topLeft.x(), end.y() - topLeft.y())};
@@ -35,9 +33,7 @@ QRect ToPixels(const Place& place, double scale)
 QColor ToQColor(Color color)
 {
     const auto value = static_cast<std::uint32_t>(color);
-    const auto channel = [value](unsigned shift) {
-        return static_cast<int>((value >> shift) & 0xFFU);
-    };
+    const auto channel = [value](unsigned shift) { return static_cast<int>((value >> shift) & 0xFFU); };
     return {channel(0), channel(8), channel(16)};
 }
 

@@ -29,9 +29,7 @@ TextBox::TextBox(const ControlDesign& design, std::pair<QWidget*, EditWidget*> w
     : Control(design, *widget.first), m_edit(*widget.second)
 {
     m_edit.SetExactText(ToQString(design.text));
-    m_edit.edited = [this] {
-        Changed();
-    };
+    m_edit.edited = [this] { Changed(); };
 }
 
 std::string TextBox::Text() const

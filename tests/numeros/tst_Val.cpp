@@ -16,9 +16,7 @@ private slots:
     {
         QTest::addColumn<QString>("text");
         QTest::addColumn<double>("value");
-        const auto row = [](const char* text, double value) {
-            QTest::newRow(text) << QString(text) << value;
-        };
+        const auto row = [](const char* text, double value) { QTest::newRow(text) << QString(text) << value; };
         row("", 0);
         row("   ", 0);
         row("12", 12);

@@ -133,9 +133,7 @@ private slots:
     {
         const auto verify = [this](const QString& name, int left, int top, int width, int height) {
             const QRect seen = Child<QWidget>(*m_form, name).geometry();
-            const auto near = [](int pixels, int twips) {
-                return std::abs(pixels - twips / 15.0) <= 1;
-            };
+            const auto near = [](int pixels, int twips) { return std::abs(pixels - twips / 15.0) <= 1; };
             QVERIFY2(near(seen.left(), left) && near(seen.top(), top) && near(seen.width(), width) &&
                          near(seen.height(), height),
                      qPrintable(name));

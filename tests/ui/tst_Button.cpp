@@ -23,9 +23,7 @@ private slots:
         m_clicked.clear();
         for (const char* name : {"Command2", "CbUno", "CbDos"}) {
             for (ui::Button& button : m_form->All<ui::Button>(name)) {
-                button.OnClick = [this, name](int Index) {
-                    m_clicked += QString("%1/%2").arg(name).arg(Index);
-                };
+                button.OnClick = [this, name](int Index) { m_clicked += QString("%1/%2").arg(name).arg(Index); };
             }
         }
         m_form->Open(ui::Modality::Modeless);

@@ -55,9 +55,7 @@ private slots:
 
     void loading_may_put_the_focus_elsewhere()
     {
-        m_form->OnLoad = [this] {
-            m_form->The<ui::Button>("CbUno").SetFocus();
-        };
+        m_form->OnLoad = [this] { m_form->The<ui::Button>("CbUno").SetFocus(); };
         Open();
         QCOMPARE(Focus(), "CbUno");
     }
@@ -69,9 +67,7 @@ private slots:
         other.Open(ui::Modality::Modeless);
         QVERIFY(WaitActive(other));
         int clicks = 0;
-        other.The<ui::Button>("CbUno").OnClick = [&clicks](int) {
-            ++clicks;
-        };
+        other.The<ui::Button>("CbUno").OnClick = [&clicks](int) { ++clicks; };
         const QWidget& button = Child<QWidget>(other, "CbUno");
         const QPoint place = button.mapTo(&other, button.rect().center());
         QTest::mouseClick(other.windowHandle(), Qt::LeftButton, {}, place);
@@ -158,9 +154,7 @@ private slots:
 
     void may_swallow_a_key_before_the_control_gets_it()
     {
-        m_form->OnKeyDown = [](int code, int) {
-            return code == 'A' ? KeyResult::Swallow : KeyResult::Pass;
-        };
+        m_form->OnKeyDown = [](int code, int) { return code == 'A' ? KeyResult::Swallow : KeyResult::Pass; };
         Open();
         Box("TBFrac").SetFocus();
         Type("abca");
@@ -200,12 +194,8 @@ private slots:
     {
         Open();
         Ear ear;
-        m_form->The<ui::Button>("CbUno").OnClick = [this](int) {
-            Box("Text3").Text("Resultado correcto");
-        };
-        m_form->The<ui::Button>("CbDos").OnClick = [this](int) {
-            Box("Text3").Text("");
-        };
+        m_form->The<ui::Button>("CbUno").OnClick = [this](int) { Box("Text3").Text("Resultado correcto"); };
+        m_form->The<ui::Button>("CbDos").OnClick = [this](int) { Box("Text3").Text(""); };
         for (int i = 0; i < 2; ++i) {
             QTest::mouseClick(&Child<QWidget>(*m_form, "CbUno"), Qt::LeftButton);
             QCOMPARE(ear.TakeSaid(), QStringList("Resultado correcto"));
@@ -219,9 +209,7 @@ private slots:
     {
         Open();
         Ear ear;
-        m_form->The<ui::Button>("CbUno").OnClick = [this](int) {
-            Box("TBFrac").Text("9");
-        };
+        m_form->The<ui::Button>("CbUno").OnClick = [this](int) { Box("TBFrac").Text("9"); };
         QTest::mouseClick(&Child<QWidget>(*m_form, "CbUno"), Qt::LeftButton);
         QCOMPARE(ear.TakeSaid(), QStringList());
     }
@@ -261,9 +249,7 @@ private slots:
         auto items = m_form->All<ui::MenuItem>("MnuOpcDenLis");
         int clicked = -1;
         for (ui::MenuItem& item : items) {
-            item.OnClick = [&clicked](int Index) {
-                clicked = Index;
-            };
+            item.OnClick = [&clicked](int Index) { clicked = Index; };
         }
         QVERIFY(items[0].Checked() && !items[1].Checked());
         items[1].Check();
@@ -278,9 +264,7 @@ private slots:
     void a_menu_entry_has_its_function_key()
     {
         int clicked = 0;
-        m_form->The<ui::MenuItem>("MnuOpcLee").OnClick = [&clicked](int) {
-            ++clicked;
-        };
+        m_form->The<ui::MenuItem>("MnuOpcLee").OnClick = [&clicked](int) { ++clicked; };
         Open();
         Press(Qt::Key_F1);
         QCOMPARE(clicked, 1);

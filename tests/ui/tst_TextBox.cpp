@@ -291,9 +291,7 @@ private slots:
         text->selection(0, &from, &to);
         QCOMPARE(to - from, 2);
         int changes = 0;
-        Editable().OnChange = [&changes](int) {
-            ++changes;
-        };
+        Editable().OnChange = [&changes](int) { ++changes; };
         interface->editableTextInterface()->insertText(2, "7");
         QCOMPARE(Editable().Text(), "127");
         QCOMPARE(changes, 1);
