@@ -76,7 +76,6 @@ void OneLineEdit::focusInEvent(QFocusEvent* event)
     QFocusEvent withoutSelecting(QEvent::FocusIn, Qt::OtherFocusReason);
     QLineEdit::focusInEvent(&withoutSelecting);
     if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason) {
-
         CaretToStart(*this);
     }
 }

@@ -67,6 +67,12 @@ void TextBox::PutInPlace()
     }
 }
 
+void TextBox::Select(int start, int length)
+{
+    m_edit.SettleCaret(); // which would otherwise undo the selection
+    m_edit.Select(start, length);
+}
+
 void TextBox::TakeColors()
 {
     if (auto* oneLine = qobject_cast<OneLineEdit*>(&Widget())) {

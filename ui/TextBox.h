@@ -29,7 +29,7 @@ public:
     // Start and length of the selection in characters from 0; the caret where nothing is selected.
     int SelStart() const { return m_edit.SelStart(); }
     int SelLength() const { return m_edit.SelLength(); }
-    void Select(int start, int length) { m_edit.Select(start, length); }
+    void Select(int start, int length);
 
     void TakeColors() override;
     KeyResult KeyDown(int keyCode, int shift) override;

@@ -169,8 +169,7 @@ class Session:
     def _lines(self):
         return self.transcript.read_text(errors="replace").splitlines()
 
-    def run(self, *command, **env):
-        self.env |= env
+    def run(self, *command):
         return self._start("program", *command)
 
     def press(self, *keys):

@@ -274,7 +274,7 @@ private slots:
     {
         Open();
         const auto alt = [this](QEvent::Type type, bool spontaneous) {
-            QKeyEvent event(type, Qt::Key_Alt, type == QEvent::KeyPress ? Qt::NoModifier : Qt::AltModifier);
+            QKeyEvent event(type, Qt::Key_Alt, Qt::AltModifier);
             if (spontaneous) {
                 QSpontaneKeyEvent::setSpontaneous(&event);
             }

@@ -181,6 +181,18 @@ private slots:
         QCOMPARE(Editable().SelLength(), 0);
     }
 
+    void a_selection_made_right_after_a_tab_stays()
+    {
+        for (ui::TextBox* box : {&Editable(), &Lines()}) {
+            QApplication::focusWidget()->clearFocus();
+            box->Widget().setFocus(Qt::TabFocusReason);
+            box->Select(0, 2);
+            Settle();
+            QCOMPARE(box->SelStart(), 0);
+            QCOMPARE(box->SelLength(), box == &Lines() ? 3 : 2); // the second character begins a line end
+        }
+    }
+
     void keys_that_follow_a_tab_at_once_are_typed_in_their_order()
     {
         for (ui::TextBox* box : {&Editable(), &Lines()}) {
