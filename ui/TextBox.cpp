@@ -6,6 +6,8 @@
 #include "Strings.h"
 #include "Val.h"
 
+#include <QAccessible>
+
 namespace ui {
 
 namespace {
@@ -15,6 +17,18 @@ std::pair<QWidget*, EditWidget*> Create(const ControlDesign& design, QWidget* pa
 {
     auto* widget = new Widget(design, parent);
     return {widget, widget};
+}
+
+// Writes into a box that is not in focus, and tells the screen reader of the text but of no caret. A caret that has
+// moved is taken for the arrival in the box where the focus follows at once, and then nothing is said of that.
+void WriteUnfocused(QWidget& widget, EditWidget& edit, const QString& text)
+{
+    const QString before = edit.ExactText();
+    const auto handler = QAccessible::installUpdateHandler([](QAccessibleEvent*) {});
+    edit.SetExactText(text);
+    QAccessible::installUpdateHandler(handler);
+    QAccessibleTextUpdateEvent event(&widget, 0, before, text);
+    QAccessible::updateAccessibility(&event);
 }
 
 } // namespace
@@ -41,7 +55,11 @@ void TextBox::Text(std::string_view text)
 {
     const QString value = ToQString(text);
     if (value != m_edit.ExactText()) {
-        m_edit.SetExactText(value);
+        if (Widget().hasFocus()) {
+            m_edit.SetExactText(value);
+        } else {
+            WriteUnfocused(Widget(), m_edit, value);
+        }
         Changed();
     }
     if (Design().speaking == Speaking::Spoken) {

@@ -193,6 +193,30 @@ private slots:
         }
     }
 
+    void writing_tells_of_a_caret_only_where_the_focus_is()
+    {
+        static QStringList told;
+        const auto previous = QAccessible::installUpdateHandler([](QAccessibleEvent* event) {
+            const bool caret = event->type() == QAccessible::TextCaretMoved;
+            const bool text = event->type() == QAccessible::TextUpdated;
+            if (caret || text) {
+                told += (caret ? "CARET " : "TEXT ") + event->object()->objectName();
+            }
+        });
+        for (ui::TextBox* box : {&Editable(), &Lines()}) {
+            m_form->The<ui::Button>("CbUno").SetFocus();
+            told.clear();
+            box->Text("tres");
+            QCOMPARE(told, QStringList("TEXT " + box->Widget().objectName()));
+            box->SetFocus();
+            QTest::keyClick(&box->Widget(), Qt::Key_End);
+            told.clear();
+            box->Text("");
+            QVERIFY(told.contains("CARET " + box->Widget().objectName()));
+        }
+        QAccessible::installUpdateHandler(previous);
+    }
+
     void keys_that_follow_a_tab_at_once_are_typed_in_their_order()
     {
         for (ui::TextBox* box : {&Editable(), &Lines()}) {
