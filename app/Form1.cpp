@@ -4,6 +4,9 @@
 #include "Dialogs.h"
 #include "Entero16.h"
 #include "Form2.h"
+#include "FormCociente.h"
+#include "FormDiferencia.h"
+#include "FormProducto.h"
 
 #include <memory>
 
@@ -35,9 +38,9 @@ constexpr std::array<Entrada, 11> entradas{{
     {"&Ordenar fracciones", nullptr, Modality::Modeless},
     {"&Conversión al mismo denominador", nullptr, Modality::Modeless},
     {"&Suma de fracciones", New<operaciones::Form2>, Modality::Modeless},
-    {"&Diferencia de fracciones", nullptr, Modality::Modeless},
-    {"&Producto de fracciones", nullptr, Modality::Modal},
-    {"&Cociente de fracciones", nullptr, Modality::Modal},
+    {"&Diferencia de fracciones", New<operaciones::FormDiferencia>, Modality::Modeless},
+    {"&Producto de fracciones", New<operaciones::FormProducto>, Modality::Modal},
+    {"&Cociente de fracciones", New<operaciones::FormCociente>, Modality::Modal},
     {"&Completa la serie", nullptr, Modality::Modeless},
 }};
 constexpr int salir = entradas.size();

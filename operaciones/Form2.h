@@ -1,23 +1,18 @@
-// Sum of fractions, with one denominator or two.
+// Sum of fractions. A wrong answer stays where it is, and so does the focus.
 #pragma once
 
-#include "FormOperacion.h"
+#include "FormDenominadores.h"
 
 namespace operaciones {
 
-class Form2 final : public FormOperacion
+class Form2 final : public FormDenominadores
 {
 public:
     Form2();
 
 private:
-    void NuevosOperandos(int limite) override;
-    Fraccion CalcularSolucion() const override;
-    void MnuOpcDenLis_Click(int Index);
-
-    const ui::ControlArray<ui::MenuItem> MnuOpcDenLis = All<ui::MenuItem>("MnuOpcDenLis");
-
-    bool MismoDenominador = true;
+    numeros::Entero16 Operar(numeros::Entero16 primero, numeros::Entero16 segundo) const override;
+    void RespuestaIncorrecta() override {}
 };
 
 } // namespace operaciones

@@ -5,7 +5,6 @@
 #include "Lectura.h"
 #include "Random.h"
 
-#include <algorithm>
 #include <cmath>
 
 namespace operaciones {
@@ -110,13 +109,15 @@ std::string Alineado(int numero)
 
 } // namespace
 
-FormOperacion::FormOperacion(const Operacion& operacion)
+FormOperacion::FormOperacion(const Operacion& operacion, std::span<const ui::MenuDesign> menus)
     : Form({.name = operacion.name,
             .caption = operacion.caption,
             .width = 4885,
             .height = 5200,
             .controls = controles,
-            .menus = operacion.menus})
+            .menus = menus}),
+      m_incorrecto(operacion.incorrecto),
+      m_variante(operacion.variante)
 {
     Text2[0].Text(operacion.signo);
     for (ui::TextBox& box : Text1) {
@@ -142,11 +143,14 @@ void FormOperacion::Form_Load()
 void FormOperacion::Command1_Click()
 {
     const bool correcto = EsCorrecto();
-    Text3.Text(lenguaje::ConBlancoSiRepite(correcto ? "Resultado correcto " : "Resultado incorrecto", Text3.Text()));
+    const std::string_view veredicto = correcto ? "Resultado correcto " : m_incorrecto;
+    Text3.Text(lenguaje::ConBlancoSiRepite(std::string(veredicto), Text3.Text()));
     Contar(correcto);
     MostrarResultados();
     if (correcto) {
         Command2[0].SetFocus();
+    } else {
+        RespuestaIncorrecta();
     }
 }
 
@@ -215,9 +219,15 @@ void FormOperacion::NuevoEjercicio()
 {
     constexpr std::array limites{10, 20, 100};
     NuevosOperandos(limites.at(static_cast<std::size_t>(OpcionCantidad.Valor())));
-    Text1[4].Text("");
-    Text1[5].Text("");
+    VaciarResultado();
     LeerOperacion();
+}
+
+void FormOperacion::NuevosOperandos(int limite)
+{
+    for (int i = 0; i < 4; ++i) {
+        Text1[i].Text(ui::Draw(limite - 1, 2));
+    }
 }
 
 void FormOperacion::Continuar()
@@ -227,22 +237,42 @@ void FormOperacion::Continuar()
     Pendiente = true;
 }
 
+void FormOperacion::RespuestaIncorrecta()
+{
+    Text1[4].SetFocus();
+}
+
 void FormOperacion::Borrar()
 {
-    Text1[4].Text("");
-    Text1[5].Text("");
+    VaciarResultado();
     Text1[4].SetFocus();
 }
 
 void FormOperacion::VerSolucion()
 {
-    Text1[4].Text("");
+    Text1[4].Text(""); // so that coming into the box is not heard as the old answer
     Text1[4].SetFocus();
+    EscribirSolucion();
+}
+
+void FormOperacion::VaciarResultado()
+{
+    Text1[4].Text("");
+    Text1[5].Text("");
+}
+
+void FormOperacion::EscribirSolucion()
+{
     const Fraccion solucion = CalcularSolucion();
     Text1[4].Text(solucion.numerador.Valor());
     Text1[5].Text(solucion.denominador.Valor());
     TbMensajes.Text(LeerFraccion(2));
     Pendiente = false; // an exercise whose solution was seen is never counted
+}
+
+numeros::Entero16 FormOperacion::Numero(int indice) const
+{
+    return numeros::Entero16::Redondeado(Text1[indice].Number());
 }
 
 // Any fraction of the same value is right, and so is 0/0: the cross product alone decides.
@@ -278,27 +308,39 @@ void FormOperacion::MostrarResultados()
 std::string FormOperacion::LeerFraccion(int indice)
 {
     if (indice >= 0) {
-        const double numerador = Text1[2 * indice].Number();
-        return lenguaje::FraccionEnLetras(numerador, Text1[2 * indice + 1].Number(), numerador == 1, Variante::Base);
+        return EnPalabras(indice, EsSingular(Text1[2 * indice].Number()));
     }
     const ui::Control* foco = ActiveControl();
     if (foco == nullptr || foco->Name() != "Text1") {
         TbMensajes.Text("No hay ninguna fracción seleccionada");
     } else {
-        TbMensajes.Text(lenguaje::ConBlancoSiRepite(LeerFraccion(foco->Index() / 2), TbMensajes.Text()));
+        // Read alone, only a numerator of 1 is singular on every screen: -1/2 is "menos un medios" here, on purpose.
+        const int fraccion = foco->Index() / 2;
+        const bool singular = Text1[2 * fraccion].Number() == 1;
+        TbMensajes.Text(lenguaje::ConBlancoSiRepite(EnPalabras(fraccion, singular), TbMensajes.Text()));
     }
     return {};
 }
 
+std::string FormOperacion::EnPalabras(int fraccion, bool singular) const
+{
+    return lenguaje::FraccionEnLetras(Text1[2 * fraccion].Number(), Text1[2 * fraccion + 1].Number(), singular,
+                                      m_variante);
+}
+
 void FormOperacion::LeerOperacion()
 {
-    // The lead comes and goes, so that the same operation is a new text each time.
-    std::string texto = TbMensajes.Text().starts_with(' ') ? "" : " ";
-    texto += LeerFraccion(0) + Text2[0].Text() + LeerFraccion(1) + Text2[1].Text();
+    std::string texto(BlancoInicial());
+    texto += LeerFraccion(0) + SignoLeido() + LeerFraccion(1) + Text2[1].Text();
     if (Text1[4].Number() != 0 || Text1[5].Number() != 0) {
         texto += LeerFraccion(2);
     }
     TbMensajes.Text(texto);
+}
+
+std::string_view FormOperacion::BlancoInicial() const
+{
+    return TbMensajes.Text().starts_with(' ') ? "" : " ";
 }
 
 // The row, numerators or denominators, stays the same; beyond the result comes the first fraction again.

@@ -1,10 +1,12 @@
 // What the screens of the four operations share: controls, exercise cycle, verdicts, score line, readings and keys. A
-// screen adds its sign, its menus, how it draws the operands and what the solution is.
+// screen says what its solution is, and overrides what it does in a way of its own.
 #pragma once
 
 #include "Entero16.h"
 #include "Form.h"
+#include "Numerales.h"
 
+#include <algorithm>
 #include <array>
 
 namespace operaciones {
@@ -15,7 +17,8 @@ struct Operacion
     std::string_view name;
     std::string_view caption;
     std::string_view signo;
-    std::span<const ui::MenuDesign> menus;
+    std::string_view incorrecto = "Resultado incorrecto ";
+    lenguaje::Variante variante = lenguaje::Variante::Base;
 };
 
 struct Fraccion
@@ -24,33 +27,75 @@ struct Fraccion
     numeros::Entero16 denominador;
 };
 
+// The menus of these screens: the ranges, the screen's own entries, the key help under its caption, the way out.
+template <std::size_t Count = 0>
+consteval auto Menus(std::string_view teclas, const std::array<ui::MenuDesign, Count>& propias = {})
+{
+    std::array<ui::MenuDesign, Count + 7> menus{{
+        {0, "MnuOpc", ui::noIndex, "&Opciones"},
+        {1, "MnuOpcCan", ui::noIndex, "&Cantidades"},
+        {2, "MnuOpcCanLis", 0, "Hasta &10", ui::Checking::Checked},
+        {2, "MnuOpcCanLis", 1, "Hasta &20", ui::Checking::Unchecked},
+        {2, "MnuOpcCanLis", 2, "Hasta &100", ui::Checking::Unchecked},
+    }};
+    auto* next = std::ranges::copy(propias, menus.begin() + 5).out;
+    *next++ = {1, "MnuOpcTec", ui::noIndex, teclas};
+    *next = {1, "MnuOpcSal", ui::noIndex, "&Salir (Alt - F4)"};
+    return menus;
+}
+
 class FormOperacion : public ui::Form
 {
 protected:
-    explicit FormOperacion(const Operacion& operacion);
+    // `menus` outlive the screen.
+    FormOperacion(const Operacion& operacion, std::span<const ui::MenuDesign> menus);
 
     void Form_Load() override;
     ui::KeyResult Form_KeyDown(int KeyCode, int Shift) override;
 
-    // Fills the four operand boxes with numbers from 2 to `limite`.
-    virtual void NuevosOperandos(int limite) = 0;
-
     // The result of the operation on the operand boxes, not simplified.
     virtual Fraccion CalcularSolucion() const = 0;
 
+    // Fills the four operand boxes in their order with numbers drawn from 2 to `limite`.
+    virtual void NuevosOperandos(int limite);
+
+    // Enter checks the answer.
+    virtual ui::KeyResult Text1_KeyPress(int Index, int KeyAscii);
+
+    // What a wrong answer brings besides its verdict and its counting: the focus goes to the result.
+    virtual void RespuestaIncorrecta();
+
+    // Both empty or fill the result boxes and put the focus there.
+    virtual void Borrar();
+    virtual void VerSolucion();
+
+    // Whether a fraction of this numerator is named without the "s" of the plural.
+    virtual bool EsSingular(double numerador) const { return numerador == 1; }
+
+    // What the reading of the operation begins with: a blank, or none if the message line begins with one, so that
+    // the same operation is a new text each time.
+    virtual std::string_view BlancoInicial() const;
+
+    // What the reading says between the operands.
+    virtual std::string SignoLeido() const { return Text2[0].Text(); }
+
+    // The number of a fraction box as a whole one.
+    numeros::Entero16 Numero(int indice) const;
+
+    void VaciarResultado();
+    void EscribirSolucion();
+
     const ui::ControlArray<ui::TextBox> Text1 = All<ui::TextBox>("Text1");
+    ui::TextBox& Text3 = The<ui::TextBox>("Text3");
 
 private:
     void Command1_Click();
     void Command2_Click(int Index);
-    ui::KeyResult Text1_KeyPress(int Index, int KeyAscii);
     void MnuOpcCanLis_Click(int Index);
     void MnuOpcTec_Click();
 
     void NuevoEjercicio();
     void Continuar();
-    void Borrar();
-    void VerSolucion();
     bool EsCorrecto() const;
     void Contar(bool correcto);
     void MostrarResultados();
@@ -58,6 +103,7 @@ private:
     // The words of fraction 0, 1 or 2. With -1, writes those of the fraction that has the focus into the message line
     // and returns nothing.
     std::string LeerFraccion(int indice);
+    std::string EnPalabras(int fraccion, bool singular) const;
     void LeerOperacion();
 
     ui::KeyResult MoverDerecha();
@@ -65,11 +111,13 @@ private:
     ui::KeyResult MoverA(int indice);
 
     const ui::ControlArray<ui::TextBox> Text2 = All<ui::TextBox>("Text2");
-    ui::TextBox& Text3 = The<ui::TextBox>("Text3");
     ui::TextBox& TbMensajes = The<ui::TextBox>("TbMensajes");
     ui::TextBox& tbResultados = The<ui::TextBox>("tbResultados");
     const ui::ControlArray<ui::Button> Command2 = All<ui::Button>("Command2");
     const ui::ControlArray<ui::MenuItem> MnuOpcCanLis = All<ui::MenuItem>("MnuOpcCanLis");
+
+    const std::string_view m_incorrecto;
+    const lenguaje::Variante m_variante;
 
     numeros::Entero16 OpcionCantidad;
     numeros::Entero16 Ejercicios;

@@ -82,12 +82,12 @@ private slots:
     void screens_that_are_not_there_yet_cannot_be_pressed()
     {
         for (int i = 0; i < captions.size(); ++i) {
-            QCOMPARE(Command1(i).isEnabled(), i == 6 || i == 11);
+            QCOMPARE(Command1(i).isEnabled(), (i >= 6 && i <= 9) || i == 11);
         }
-        QCOMPARE(Focus(), "Command1(6)");
-        Press(Qt::Key_Tab);
-        QCOMPARE(Focus(), "Command1(11)");
-        Press(Qt::Key_Tab);
+        for (const int next : {6, 7, 8, 9, 11}) {
+            QCOMPARE(Focus(), QString("Command1(%1)").arg(next));
+            Press(Qt::Key_Tab);
+        }
         QCOMPARE(Focus(), "Command1(6)");
     }
 
@@ -164,6 +164,40 @@ private slots:
         Press(Qt::Key_Space);
         QVERIFY(WaitActive(*Window("Form2")));
         QCOMPARE(Windows("Form2"), QWidgetList{const_cast<QWidget*>(sum)});
+    }
+
+    void opens_each_screen_modal_or_beside_itself_data()
+    {
+        QTest::addColumn<int>("button");
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("title");
+        QTest::addColumn<bool>("modal");
+        const auto row = [](int button, const char* name, const char* title, bool modal) {
+            QTest::newRow(name) << button << name << title << modal;
+        };
+        row(6, "Form2", "SUMA DE FRACCIONES", false);
+        row(7, "FormDiferencia", "DIFERENCIA DE FRACCIONES", false);
+        row(8, "FormProducto", "PRODUCTO DE FRACCIONES", true);
+        row(9, "FormCociente", "COCIENTE DE FRACCIONES", true);
+    }
+    void opens_each_screen_modal_or_beside_itself()
+    {
+        QFETCH(int, button);
+        QFETCH(QString, name);
+        QFETCH(QString, title);
+        QFETCH(bool, modal);
+        Command1(button).setFocus();
+        Press(Qt::Key_Return);
+        const QPointer<QWidget> screen = Window(name);
+        QVERIFY(screen && WaitActive(*screen));
+        QCOMPARE(screen->windowTitle(), title);
+        QCOMPARE(screen->isModal(), modal);
+        screen->close();
+        Settle();
+        QVERIFY(!screen);
+        m_menu->activateWindow(); // as a window manager does
+        QVERIFY(WaitActive(*m_menu));
+        QCOMPARE(Focus(), QString("Command1(%1)").arg(button));
     }
 
     void brings_a_minimised_screen_back()

@@ -177,7 +177,7 @@ class Session:
             subprocess.run(["xdotool", "key", "--clearmodifiers", key], env=self.env, check=True)
 
     def type(self, text):
-        subprocess.run(["xdotool", "type", "--delay", "120", text], env=self.env, check=True)
+        subprocess.run(["xdotool", "type", "--delay", "120", "--", text], env=self.env, check=True)
 
     def heard(self, at_least=0):
         """The texts spoken since the last call; one that was cut off ends in "[cut]". Waits until there are `at_least`

@@ -1,0 +1,32 @@
+#include "FormProducto.h"
+
+namespace operaciones {
+
+namespace {
+
+constexpr auto menus = Menus("&Combinaciones de teclas...");
+
+} // namespace
+
+FormProducto::FormProducto()
+    : FormOperacion({.name = "FormProducto", .caption = "PRODUCTO DE FRACCIONES", .signo = "x"}, menus)
+{
+}
+
+Fraccion FormProducto::CalcularSolucion() const
+{
+    return {Numero(0) * Numero(2), Numero(1) * Numero(3)};
+}
+
+ui::KeyResult FormProducto::Text1_KeyPress(int Index, int KeyAscii)
+{
+    Text3.Text("");
+    return Index > 3 ? FormOperacion::Text1_KeyPress(Index, KeyAscii) : ui::KeyResult::Pass;
+}
+
+std::string FormProducto::SignoLeido() const
+{
+    return " por ";
+}
+
+} // namespace operaciones

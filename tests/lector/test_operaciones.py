@@ -1,0 +1,246 @@
+"""A blind pupil's sessions on the screens of the four operations: every utterance of the screen reader, from the menu and
+back to it.
+
+The pupil knows of the exercise only what was heard: the answers typed are computed from the words of the reading.
+"""
+
+import math
+import os
+import re
+import unittest
+
+from pupil import *
+
+MUTE_PROGRAM = os.environ["KELVORA_MUTE"]  # the program, but for the announcements
+HELP = ("F2: Lee la fracción seleccionada.|F3: Lee la operación completa.|"
+        "Control + cursor derecha: Pasa de una fracción a la de su derecha.|"
+        "Control + cursor izquierda: Pasa de una fracción a la de su izquierda.")
+
+
+class OperationLesson(Lesson):
+    name = title = sign = None
+
+    def open_operation(self, program=PROGRAM):
+        """Opens the screen and hears it, with its first exercise."""
+        self.open_screen(program, self.name, "Numerador")
+        texts = self.heard_with("=")
+        lead = " " if texts[-1].startswith(" ") else ""
+        self.hear_exercise(texts)
+        self.assertEqual(texts, window(self.title) + locked("Numerador de la primera fracción", f"{self.n1}")
+                         + said(lead + self.operation()))
+
+    def hear_exercise(self, texts):
+        """Understands the reading of a new exercise, the last of `texts`."""
+        reading = re.fullmatch(rf" ?(\w+) (\w+?)s?{re.escape(self.sign)}(\w+) (\w+?)s?=", texts[-1])
+        self.assertIsNotNone(reading, texts)
+        n1, d1, n2, d2 = reading.groups()
+        self.n1, self.d1, self.n2, self.d2 = CARDINALS.index(n1), PARTS.index(d1), CARDINALS.index(n2), PARTS.index(d2)
+
+    def operation(self, result=""):
+        return f"{fraction(self.n1, self.d1)}{self.sign}{fraction(self.n2, self.d2)}={result}"
+
+    def next_exercise(self):
+        """Presses Enter, which brings a new exercise."""
+        self.session.press("Return")
+        texts = self.heard_with("=")
+        self.hear_exercise(texts)
+        self.assertEqual(texts[:-1], editable("Numerador del resultado", "") + said("=")[:-1])
+
+    def answer(self, numerator, denominator):
+        """Types an answer from the empty numerator on."""
+        self.type(f"{numerator}")
+        self.press("Tab", editable("Denominador del resultado", ""))
+        self.type(f"{denominator}")
+
+
+class Suma(OperationLesson):
+    name, title, sign = "Suma de fracciones", "SUMA DE FRACCIONES", "+"
+
+    def test_a_lesson(self):
+        self.open_operation()
+        self.assertEqual(self.d1, self.d2)
+        first, second, total = fraction(self.n1, self.d1), fraction(self.n2, self.d2), self.n1 + self.n2
+
+        # The reading keys, each twice: the same words with a blank more, or less.
+        self.press("F2", said(first))
+        self.press("F2", said(first + " "))
+        self.press("F3", said(" " + self.operation()))
+        self.press("F3", said(self.operation()))
+
+        # Round the fractions to the right, and back in the row of the denominators.
+        self.press("ctrl+Right", locked("Numerador de la segunda fracción", f"{self.n2}"), said(second))
+        self.press("ctrl+Right", editable("Numerador del resultado", ""), said("cero ceros"))
+        self.press("ctrl+Right", locked("Numerador de la primera fracción", f"{self.n1}"), said(first))
+        self.press("Tab", locked("Denominador de la primera fracción", f"{self.d1}"))
+        self.press("ctrl+Left", editable("Denominador del resultado", ""), said("cero ceros"))
+        self.press("ctrl+Left", locked("Denominador de la segunda fracción", f"{self.d1}"), said(second))
+        self.press("ctrl+Left", locked("Denominador de la primera fracción", f"{self.d1}"), said(first))
+        self.press("shift+Tab", locked("Numerador de la primera fracción", f"{self.n1}"))
+        self.press("ctrl+Left", editable("Numerador del resultado", ""), said("cero ceros"))
+
+        # A wrong answer, two times; the focus stays.
+        self.type("1")
+        self.press("Return", said("Resultado incorrecto"))
+        self.press("Return", said("Resultado incorrecto "))
+        self.press("Tab", editable("Denominador del resultado", ""))
+        self.type(f"{self.d1}")
+        self.press("shift+Tab", editable("Numerador del resultado", "1"))
+
+        # The right one; the verdict is heard on "Continuar", and Enter there brings the next exercise.
+        self.press("alt+b")  # nothing to say: the focus is where it was, and the boxes are empty
+        self.answer(total, self.d1)
+        self.press("F3", said(" " + self.operation(fraction(total, self.d1))))
+        self.press("shift+Tab", editable("Numerador del resultado", f"{total}"))
+        self.press("Return", button("Continuar"), said("Resultado correcto "))
+        self.press("shift+Tab", locked("Resultado", "Resultado correcto "))
+        self.press("Tab", button("Continuar"))
+        self.next_exercise()
+
+        # The solution is in the box and in the message, the same.
+        total = self.n1 + self.n2
+        self.press("Tab", editable("Denominador del resultado", ""))
+        self.press("alt+v", editable("Numerador del resultado", f"{total}"), said(fraction(total, self.d1)))
+        self.press("Tab", editable("Denominador del resultado", f"{self.d1}"))
+
+        # An option, the key help, the score, and back to the menu.
+        self.press("alt+o", ["Cantidades."])
+        self.press("Right", ["Hasta 10 marcada."])
+        self.press("Down", [unchecked("Hasta 20")])
+        self.press("Return", editable("Denominador del resultado", f"{self.d1}"))
+        self.press("alt+o", ["Cantidades."])
+        self.press("Down", ["Denominador."])
+        self.press("Down", [SUBMENU_HELP])
+        self.press_return_for_box("Combinaciones de teclas", HELP)
+        self.press("Return", window_again("SUMA DE FRACCIONES"), editable("Denominador del resultado", f"{self.d1}"))
+        self.press("Tab", button("Hecho"))
+        self.press("F2", said("No hay ninguna fracción seleccionada"))
+        self.press("F2", said("No hay ninguna fracción seleccionada"))
+        self.press("Tab", locked("Resultado", "Resultado correcto "))
+        self.press("Tab", button("Continuar"))
+        self.press("Tab", button("Borrar"))
+        self.press("Tab", button("Ver solución"))
+        self.press("Tab", locked("Mensajes", "No hay ninguna fracción seleccionada"))
+        self.press("Tab", locked("Marcador", "Ejercicios:  3; Errores:  2"))
+        self.press("alt+F4", window_again("KELVORA"), button("Suma de fracciones"))
+
+        braille = self.session.braille()
+        for message in (first, "Resultado incorrecto", fraction(total, self.d1), "No hay ninguna fracción seleccionada"):
+            self.assertIn(message, braille)
+        self.assertNotIn("", braille)
+
+    def test_without_announcements_the_suite_fails(self):
+        """The suite proves itself: it is the announcements that it hears, and their absence does not pass."""
+        self.open_screen(MUTE_PROGRAM, self.name, "Numerador")
+        texts = self.session.heard()
+        self.assertEqual(texts[:1], window("SUMA DE FRACCIONES"))
+        with self.assertRaises(AssertionError):
+            self.hear_exercise(texts)
+        self.session.press("ctrl+Left")
+        self.assertEqual(self.session.heard(), editable("Numerador del resultado", ""))
+        with self.assertRaises(AssertionError):
+            self.press("Return", said("Resultado incorrecto"))
+
+
+class Diferencia(OperationLesson):
+    name, title, sign = "Diferencia de fracciones", "DIFERENCIA DE FRACCIONES", "-"
+
+    def test_a_lesson(self):
+        self.open_operation()
+        self.assertEqual(self.d1, self.d2)
+        self.press("F3", said(self.operation()))
+        self.press("ctrl+Left", editable("Numerador del resultado", ""), said("cero ceros"))
+
+        # A negative number is read as such; being wrong, it is cleared away.
+        self.answer("-3", 4)
+        self.press("F2", said("menos tres cuartos"))
+        self.press("F3", said(" " + self.operation("menos tres cuartos")))
+        self.press("Return", editable("Numerador del resultado", ""), said("Resultado incorrecto "))
+        self.press("F3", said(self.operation()))
+        self.press("Return", said("Resultado incorrecto  "))
+        self.answer("-1", 2)
+        self.press("F2", said("menos un medios"))
+        self.press("F3", said(" " + self.operation("menos un medio")))
+        self.press("alt+b", editable("Numerador del resultado", ""))
+        self.answer(self.n1 - self.n2, self.d1)
+        self.press("Return", button("Continuar"), said("Resultado correcto "))
+
+        # Different denominators: the solution may be negative.
+        self.press("alt+o", ["Cantidades."])
+        self.press("Down", ["Denominador."])
+        self.press("Right", ["El mismo denominador marcada."])
+        self.press("Down", [unchecked("Distinto denominador ")])
+        self.press("Return", button("Continuar"))
+        self.next_exercise()
+        self.assertNotEqual(self.d1, self.d2)
+        common = math.lcm(self.d1, self.d2)
+        difference = common // self.d1 * self.n1 - common // self.d2 * self.n2
+        self.press("Tab", editable("Denominador del resultado", ""))
+        self.press("alt+v", editable("Numerador del resultado", f"{difference}"), said(fraction(difference, common)))
+        self.press("alt+F4", window_again("KELVORA"), button(self.name))
+
+
+class Producto(OperationLesson):
+    name, title, sign = "Producto de fracciones", "PRODUCTO DE FRACCIONES", " por "
+
+    def test_a_lesson(self):
+        self.open_operation()
+        self.press("F3", said(self.operation()))
+        self.press("F3", said(" " + self.operation()))
+        self.press("Return")  # checks nothing here, and there is nothing to say
+        self.press("ctrl+Left", editable("Numerador del resultado", ""), said("cero ceros"))
+
+        # A wrong answer stays, and its verdict is the same each time, since the key has emptied it.
+        self.answer(1, 9)
+        self.press("Return", editable("Numerador del resultado", "1"), said("Resultado incorrecto "))
+        self.press("Return", said("Resultado incorrecto "))
+        self.press("alt+h", said("Resultado incorrecto  "))  # the focus is back where it was
+        self.press("alt+b")
+        self.answer(self.n1 * self.n2, self.d1 * self.d2)
+        result = fraction(self.n1 * self.n2, self.d1 * self.d2)
+        self.press("F3", said(" " + self.operation(result)))
+        self.press("Return", button("Continuar"), said("Resultado correcto "))
+        self.next_exercise()
+
+        product = self.n1 * self.n2, self.d1 * self.d2
+        self.press("Tab", editable("Denominador del resultado", ""))
+        self.press("alt+v", editable("Numerador del resultado", f"{product[0]}"), said(fraction(*product)))
+
+        # No denominators to choose here.
+        self.press("alt+o", ["Cantidades."])
+        self.press("Down", [SUBMENU_HELP])
+        self.press("Escape", ["Opciones."])
+        self.press("Escape", editable("Numerador del resultado", f"{product[0]}"))
+        self.press("alt+F4", window_again("KELVORA"), button(self.name))
+
+
+class Cociente(OperationLesson):
+    name, title, sign = "Cociente de fracciones", "COCIENTE DE FRACCIONES", "÷"
+
+    def test_a_lesson(self):
+        self.open_operation()
+        self.press("F3", said(self.operation()))
+        self.press("F3", said(self.operation()))
+        self.press("Return", editable("Numerador del resultado", ""), said("Resultado incorrecto "))
+        self.answer(1, 9)
+
+        # The focus stays on the buttons.
+        self.press("alt+b", button("Borrar"))
+        self.press("shift+Tab", button("Continuar"))
+        self.press("alt+v", button("Ver solución"), said(fraction(self.n1 * self.d2, self.d1 * self.n2)))
+        self.press("alt+b", button("Borrar"))
+        self.press("Return")
+        self.press("shift+Tab", button("Continuar"))
+        self.next_exercise()
+
+        self.answer(self.n1 * self.d2, self.d1 * self.n2)
+        self.press("F3", said(self.operation(fraction(self.n1 * self.d2, self.d1 * self.n2))))
+        self.press("Return", button("Continuar"), said("Resultado correcto "))
+        self.press("alt+o", ["Cantidades."])
+        self.press("Down", ["Combinaciones de teclas."])
+        self.press_return_for_box("Combinaciones de teclas", HELP)
+        self.press("Return", window_again(self.title), button("Continuar"))
+        self.press("alt+F4", window_again("KELVORA"), button(self.name))
+
+
+if __name__ == "__main__":
+    unittest.main(verbosity=2)

@@ -1,0 +1,162 @@
+// What the tests of the operation screens share: one screen that is open, the pupil's hands on it, and an ear.
+#pragma once
+
+#include "Form.h"
+#include "Random.h"
+#include "Support.h"
+
+#include <QAction>
+#include <QLineEdit>
+#include <QPushButton>
+
+#include <array>
+#include <memory>
+#include <vector>
+
+// First numerator and denominator, second numerator and denominator.
+using Operands = std::array<int, 4>;
+
+constexpr std::array limits{10, 20, 100};
+constexpr int manyExercises = 10'000;
+
+class OperationScreen
+{
+protected:
+    void OpenScreen(ui::Form* form)
+    {
+        m_ear = std::make_unique<support::Ear>();
+        m_form = form;
+        m_form->Open(ui::Modality::Modeless);
+        QVERIFY(support::WaitActive(*m_form));
+    }
+
+    void CloseScreen()
+    {
+        if (m_form) {
+            m_form->close();
+        }
+        support::Settle();
+        QVERIFY(!m_form);
+        m_ear.reset();
+        ui::FixSeed({});
+        QVERIFY(QApplication::topLevelWidgets().isEmpty());
+    }
+
+    QLineEdit& Box(const QString& name) const { return support::Child<QLineEdit>(*m_form, name); }
+    QLineEdit& Text1(int index) const { return Box(QString("Text1(%1)").arg(index)); }
+    QString Text(const QString& name) const { return Box(name).text(); }
+    QAction& Entry(const QString& name) const { return support::Child<QAction>(*m_form, name); }
+    QPushButton& Button(const QString& name) const { return support::Child<QPushButton>(*m_form, name); }
+
+    // A box that does not hold a plain number shows as -1, which no screen draws.
+    Operands Shown() const
+    {
+        Operands values{-1, -1, -1, -1};
+        for (int i = 0; i < 4; ++i) {
+            const QString text = Text1(i).text();
+            if (const int value = text.toInt(); QString::number(value) == text) {
+                values.at(i) = value;
+            }
+        }
+        return values;
+    }
+
+    void SetOperands(const Operands& values) const
+    {
+        for (int i = 0; i < 4; ++i) {
+            Text1(i).setText(QString::number(values.at(i)));
+        }
+    }
+
+    // The answer as it stands, "numerator/denominator".
+    QString Result() const { return Text("Text1(4)") + "/" + Text("Text1(5)"); }
+
+    // The solution that the screen shows of these operands.
+    QString Solution(const Operands& operands) const
+    {
+        SetOperands(operands);
+        Button("Command2(2)").click();
+        return Result();
+    }
+
+    // Types a result and leaves the focus in its denominator.
+    void Answer(const QString& numerator, const QString& denominator) const
+    {
+        Text1(4).setFocus();
+        Text1(4).clear();
+        support::Type(numerator);
+        Text1(5).setFocus();
+        Text1(5).clear();
+        support::Type(denominator);
+    }
+
+    // Answers and presses Enter; the verdict that is heard.
+    QStringList Verdict(const QString& numerator, const QString& denominator) const
+    {
+        Answer(numerator, denominator);
+        m_ear->Take();
+        support::Press(Qt::Key_Return);
+        return m_ear->TakeSaid();
+    }
+
+    static void AddRanges()
+    {
+        QTest::addColumn<int>("range");
+        for (int range = 0; range < 3; ++range) {
+            QTest::addRow("to %d", limits.at(range)) << range;
+        }
+    }
+
+    static void Collect(const Operands& values, std::array<QSet<int>, 4>& seen)
+    {
+        for (int i = 0; i < 4; ++i) {
+            seen.at(i).insert(values.at(i));
+        }
+    }
+
+    static QSet<int> From(int first, int last)
+    {
+        QSet<int> values;
+        for (int value = first; value <= last; ++value) {
+            values.insert(value);
+        }
+        return values;
+    }
+
+    // Numerator and denominator of "n/d".
+    static std::pair<qint64, qint64> Parts(const QString& fraction)
+    {
+        return {fraction.section('/', 0, 0).toLongLong(), fraction.section('/', 1).toLongLong()};
+    }
+
+    void Click(const QString& name) const { QTest::mouseClick(&Button(name), Qt::LeftButton); }
+    void Choose(const QString& name) const { Entry(name).trigger(); }
+    void Continue() const { Button("Command2(0)").click(); }
+
+    // Chooses range 0, 1 or 2 and has many exercises made. Of each, `verify` gets the four values drawn with the same
+    // seed, in their order, and the four shown.
+    template <class Verify>
+    void DrawExercises(int range, Verify verify) const
+    {
+        Choose(QString("MnuOpcCanLis(%1)").arg(range));
+        ui::FixSeed(99);
+        ui::Randomize(0);
+        std::vector<Operands> drawn(manyExercises);
+        for (Operands& values : drawn) {
+            for (int& value : values) {
+                value = static_cast<int>((limits.at(range) - 1) * ui::Rnd()) + 2;
+            }
+        }
+        ui::Randomize(0);
+        for (const Operands& values : drawn) {
+            Continue();
+            verify(values, Shown());
+            if (QTest::currentTestFailed()) {
+                return;
+            }
+        }
+    }
+
+    QPointer<ui::Form> m_form;
+    std::unique_ptr<support::Ear> m_ear;
+};
