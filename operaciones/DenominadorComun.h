@@ -1,4 +1,4 @@
-// The common denominator that the sum of fractions is written over.
+// The common denominator that sums and differences of fractions are written over.
 #pragma once
 
 #include "Entero16.h"

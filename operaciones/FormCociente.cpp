@@ -4,7 +4,7 @@ namespace operaciones {
 
 namespace {
 
-constexpr auto menus = Menus("&Combinaciones de teclas");
+constexpr auto menus = Menus<0>({}, "&Combinaciones de teclas");
 
 } // namespace
 

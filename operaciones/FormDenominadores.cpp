@@ -8,12 +8,11 @@ namespace {
 
 using enum ui::Checking;
 
-constexpr auto menus =
-    Menus("&Combinaciones de teclas...", std::array<ui::MenuDesign, 3>{{
-                                             {1, "MnuOpcDen", ui::noIndex, "&Denominador"},
-                                             {2, "MnuOpcDenLis", 0, "El &mismo denominador", Checked},
-                                             {2, "MnuOpcDenLis", 1, "&Distinto denominador ", Unchecked},
-                                         }});
+constexpr auto menus = Menus(std::array<ui::MenuDesign, 3>{{
+    {1, "MnuOpcDen", ui::noIndex, "&Denominador"},
+    {2, "MnuOpcDenLis", 0, "El &mismo denominador", Checked},
+    {2, "MnuOpcDenLis", 1, "&Distinto denominador ", Unchecked},
+}});
 
 } // namespace
 
@@ -31,8 +30,8 @@ void FormDenominadores::NuevosOperandos(int limite)
     FormOperacion::NuevosOperandos(limite);
     if (MismoDenominador) {
         Text1[3].Text(Text1[1].Text());
-    } else if (const int repetido = Numero(3).Valor(); Numero(1) == repetido) {
-        Text1[3].Text(repetido == 2 ? 3 : repetido - 1);
+    } else if (const int segundo = Numero(3).Valor(); Numero(1) == segundo) {
+        Text1[3].Text(segundo == 2 ? 3 : segundo - 1);
     }
 }
 

@@ -1,5 +1,6 @@
 #include "FormDiferencia.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace operaciones {
@@ -12,8 +13,8 @@ FormDiferencia::FormDiferencia()
 {
 }
 
-// The smaller numerator is lowered even where the two were in order already; equal ones are told apart upwards, and at
-// the limit they stay equal. All of it is on purpose.
+// The smaller numerator is lowered even where the two were in order already; of equal ones the first is raised, except
+// at the limit. All of it is on purpose.
 void FormDiferencia::NuevosOperandos(int limite)
 {
     FormDenominadores::NuevosOperandos(limite);

@@ -12,7 +12,6 @@ namespace operaciones {
 namespace {
 
 using enum ui::Kind;
-using lenguaje::Variante;
 using ui::Alignment;
 using ui::Color;
 using ui::Coloring;
@@ -20,7 +19,7 @@ using ui::KeyResult;
 using ui::Speaking;
 using ui::Typing;
 
-constexpr ui::ControlDesign Numero(int index, std::string_view says, int left, int top, int tab, Typing typing)
+constexpr ui::ControlDesign Caja(int index, std::string_view says, int left, int top, int tab, Typing typing)
 {
     return {.name = "Text1",
             .index = index,
@@ -62,14 +61,14 @@ constexpr ui::ControlDesign Boton(int index, std::string_view caption, int left,
 
 // The lower buttons cover the foot of "&Hecho" and the head of the verdict box.
 constexpr ui::ControlDesign controles[]{
-    Numero(0, "Numerador de la primera fracción", 500, 500, 0, Typing::Locked),
-    Numero(1, "Denominador de la primera fracción", 500, 1100, 1, Typing::Locked),
+    Caja(0, "Numerador de la primera fracción", 500, 500, 0, Typing::Locked),
+    Caja(1, "Denominador de la primera fracción", 500, 1100, 1, Typing::Locked),
     Signo(0, "", "Signo de la operación", 1400, 2),
-    Numero(2, "Numerador de la segunda fracción", 2455, 500, 3, Typing::Locked),
-    Numero(3, "Denominador de la segunda fracción", 2455, 1100, 4, Typing::Locked),
+    Caja(2, "Numerador de la segunda fracción", 2455, 500, 3, Typing::Locked),
+    Caja(3, "Denominador de la segunda fracción", 2455, 1100, 4, Typing::Locked),
     Signo(1, "=", "Signo igual", 3355, 5),
-    Numero(4, "Numerador del resultado", 4210, 500, 6, Typing::Editable),
-    Numero(5, "Denominador del resultado", 4210, 1100, 7, Typing::Editable),
+    Caja(4, "Numerador del resultado", 4210, 500, 6, Typing::Editable),
+    Caja(5, "Denominador del resultado", 4210, 1100, 7, Typing::Editable),
     Raya(0, 500),
     Raya(1, 2455),
     Raya(2, 4210),
@@ -116,8 +115,7 @@ FormOperacion::FormOperacion(const Operacion& operacion, std::span<const ui::Men
             .height = 5200,
             .controls = controles,
             .menus = menus}),
-      m_incorrecto(operacion.incorrecto),
-      m_variante(operacion.variante)
+      m_operacion(operacion)
 {
     Text2[0].Text(operacion.signo);
     for (ui::TextBox& box : Text1) {
@@ -131,7 +129,7 @@ FormOperacion::FormOperacion(const Operacion& operacion, std::span<const ui::Men
         item.OnClick = [this](int Index) { MnuOpcCanLis_Click(Index); };
     }
     The<ui::MenuItem>("MnuOpcTec").OnClick = [this](int) { MnuOpcTec_Click(); };
-    The<ui::MenuItem>("MnuOpcSal").OnClick = [this](int) { close(); };
+    The<ui::MenuItem>("MnuOpcSal").OnClick = [this](int) { MnuOpcSal_Click(); };
 }
 
 void FormOperacion::Form_Load()
@@ -143,7 +141,7 @@ void FormOperacion::Form_Load()
 void FormOperacion::Command1_Click()
 {
     const bool correcto = EsCorrecto();
-    const std::string_view veredicto = correcto ? "Resultado correcto " : m_incorrecto;
+    const std::string_view veredicto = correcto ? "Resultado correcto " : m_operacion.incorrecto;
     Text3.Text(lenguaje::ConBlancoSiRepite(std::string(veredicto), Text3.Text()));
     Contar(correcto);
     MostrarResultados();
@@ -213,6 +211,11 @@ void FormOperacion::MnuOpcTec_Click()
                "Control + cursor derecha: Pasa de una fracción a la de su derecha.\r\n"
                "Control + cursor izquierda: Pasa de una fracción a la de su izquierda.",
                "Combinaciones de teclas");
+}
+
+void FormOperacion::MnuOpcSal_Click()
+{
+    close();
 }
 
 void FormOperacion::NuevoEjercicio()
@@ -314,7 +317,8 @@ std::string FormOperacion::LeerFraccion(int indice)
     if (foco == nullptr || foco->Name() != "Text1") {
         TbMensajes.Text("No hay ninguna fracción seleccionada");
     } else {
-        // Read alone, only a numerator of 1 is singular on every screen: -1/2 is "menos un medios" here, on purpose.
+        // With the reading key only a numerator of 1 is singular, on every screen: -1/2 is "menos un medios" here, on
+        // purpose.
         const int fraccion = foco->Index() / 2;
         const bool singular = Text1[2 * fraccion].Number() == 1;
         TbMensajes.Text(lenguaje::ConBlancoSiRepite(EnPalabras(fraccion, singular), TbMensajes.Text()));
@@ -325,13 +329,15 @@ std::string FormOperacion::LeerFraccion(int indice)
 std::string FormOperacion::EnPalabras(int fraccion, bool singular) const
 {
     return lenguaje::FraccionEnLetras(Text1[2 * fraccion].Number(), Text1[2 * fraccion + 1].Number(), singular,
-                                      m_variante);
+                                      m_operacion.variante);
 }
 
 void FormOperacion::LeerOperacion()
 {
     std::string texto(BlancoInicial());
-    texto += LeerFraccion(0) + SignoLeido() + LeerFraccion(1) + Text2[1].Text();
+    texto += LeerFraccion(0);
+    texto += m_operacion.signoLeido.empty() ? Text2[0].Text() : std::string(m_operacion.signoLeido);
+    texto += LeerFraccion(1) + Text2[1].Text();
     if (Text1[4].Number() != 0 || Text1[5].Number() != 0) {
         texto += LeerFraccion(2);
     }

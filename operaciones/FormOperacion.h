@@ -17,6 +17,7 @@ struct Operacion
     std::string_view name;
     std::string_view caption;
     std::string_view signo;
+    std::string_view signoLeido = {}; // what the reading of the operation says instead of the sign
     std::string_view incorrecto = "Resultado incorrecto ";
     lenguaje::Variante variante = lenguaje::Variante::Base;
 };
@@ -29,18 +30,22 @@ struct Fraccion
 
 // The menus of these screens: the ranges, the screen's own entries, the key help under its caption, the way out.
 template <std::size_t Count = 0>
-consteval auto Menus(std::string_view teclas, const std::array<ui::MenuDesign, Count>& propias = {})
+consteval auto Menus(const std::array<ui::MenuDesign, Count>& propias = {},
+                     std::string_view teclas = "&Combinaciones de teclas...")
 {
-    std::array<ui::MenuDesign, Count + 7> menus{{
+    constexpr std::array<ui::MenuDesign, 5> rangos{{
         {0, "MnuOpc", ui::noIndex, "&Opciones"},
         {1, "MnuOpcCan", ui::noIndex, "&Cantidades"},
         {2, "MnuOpcCanLis", 0, "Hasta &10", ui::Checking::Checked},
         {2, "MnuOpcCanLis", 1, "Hasta &20", ui::Checking::Unchecked},
         {2, "MnuOpcCanLis", 2, "Hasta &100", ui::Checking::Unchecked},
     }};
-    auto* next = std::ranges::copy(propias, menus.begin() + 5).out;
-    *next++ = {1, "MnuOpcTec", ui::noIndex, teclas};
-    *next = {1, "MnuOpcSal", ui::noIndex, "&Salir (Alt - F4)"};
+    const std::array<ui::MenuDesign, 2> finales{{
+        {1, "MnuOpcTec", ui::noIndex, teclas},
+        {1, "MnuOpcSal", ui::noIndex, "&Salir (Alt - F4)"},
+    }};
+    std::array<ui::MenuDesign, rangos.size() + Count + finales.size()> menus;
+    std::ranges::copy(finales, std::ranges::copy(propias, std::ranges::copy(rangos, menus.begin()).out).out);
     return menus;
 }
 
@@ -56,16 +61,16 @@ protected:
     // The result of the operation on the operand boxes, not simplified.
     virtual Fraccion CalcularSolucion() const = 0;
 
-    // Fills the four operand boxes in their order with numbers drawn from 2 to `limite`.
+    // Fills the four operand boxes in their order; by default with numbers drawn from 2 to `limite`.
     virtual void NuevosOperandos(int limite);
 
-    // Enter checks the answer.
+    // By default Enter checks the answer.
     virtual ui::KeyResult Text1_KeyPress(int Index, int KeyAscii);
 
-    // What a wrong answer brings besides its verdict and its counting: the focus goes to the result.
+    // What a wrong answer brings besides its verdict and its counting; by default the focus goes to the result.
     virtual void RespuestaIncorrecta();
 
-    // Both empty or fill the result boxes and put the focus there.
+    // Empty and fill the result boxes; by default they put the focus there too.
     virtual void Borrar();
     virtual void VerSolucion();
 
@@ -76,10 +81,7 @@ protected:
     // the same operation is a new text each time.
     virtual std::string_view BlancoInicial() const;
 
-    // What the reading says between the operands.
-    virtual std::string SignoLeido() const { return Text2[0].Text(); }
-
-    // The number of a fraction box as a whole one.
+    // The number of a fraction box, rounded to a whole number.
     numeros::Entero16 Numero(int indice) const;
 
     void VaciarResultado();
@@ -93,6 +95,7 @@ private:
     void Command2_Click(int Index);
     void MnuOpcCanLis_Click(int Index);
     void MnuOpcTec_Click();
+    void MnuOpcSal_Click();
 
     void NuevoEjercicio();
     void Continuar();
@@ -116,8 +119,7 @@ private:
     const ui::ControlArray<ui::Button> Command2 = All<ui::Button>("Command2");
     const ui::ControlArray<ui::MenuItem> MnuOpcCanLis = All<ui::MenuItem>("MnuOpcCanLis");
 
-    const std::string_view m_incorrecto;
-    const lenguaje::Variante m_variante;
+    const Operacion m_operacion;
 
     numeros::Entero16 OpcionCantidad;
     numeros::Entero16 Ejercicios;

@@ -4,12 +4,13 @@ namespace operaciones {
 
 namespace {
 
-constexpr auto menus = Menus("&Combinaciones de teclas...");
+constexpr auto menus = Menus();
 
 } // namespace
 
 FormProducto::FormProducto()
-    : FormOperacion({.name = "FormProducto", .caption = "PRODUCTO DE FRACCIONES", .signo = "x"}, menus)
+    : FormOperacion({.name = "FormProducto", .caption = "PRODUCTO DE FRACCIONES", .signo = "x", .signoLeido = " por "},
+                    menus)
 {
 }
 
@@ -22,11 +23,6 @@ ui::KeyResult FormProducto::Text1_KeyPress(int Index, int KeyAscii)
 {
     Text3.Text("");
     return Index > 3 ? FormOperacion::Text1_KeyPress(Index, KeyAscii) : ui::KeyResult::Pass;
-}
-
-std::string FormProducto::SignoLeido() const
-{
-    return " por ";
 }
 
 } // namespace operaciones

@@ -14,7 +14,6 @@ public:
 private:
     Fraccion CalcularSolucion() const override;
     ui::KeyResult Text1_KeyPress(int Index, int KeyAscii) override;
-    std::string SignoLeido() const override;
 };
 
 } // namespace operaciones

@@ -179,6 +179,10 @@ class Session:
     def type(self, text):
         subprocess.run(["xdotool", "type", "--delay", "120", "--", text], env=self.env, check=True)
 
+    def heard_so_far(self):
+        """The texts that the voice has begun since the last `heard`, which will give them again."""
+        return [line[6:] for line in self._lines()[self._read:] if line.startswith("START ")]
+
     def heard(self, at_least=0):
         """The texts spoken since the last call; one that was cut off ends in "[cut]". Waits until there are `at_least`
         so many, or the limit has passed, and then until the voice has been quiet for a while."""

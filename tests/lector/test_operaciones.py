@@ -1,5 +1,5 @@
-"""A blind pupil's sessions on the screens of the four operations: every utterance of the screen reader, from the menu and
-back to it.
+"""A blind pupil's sessions on the screens of the four operations: every utterance of the screen reader, from the menu
+and back to it.
 
 The pupil knows of the exercise only what was heard: the answers typed are computed from the words of the reading.
 """
@@ -19,15 +19,15 @@ HELP = ("F2: Lee la fracción seleccionada.|F3: Lee la operación completa.|"
 
 class OperationLesson(Lesson):
     name = title = sign = None
+    alternates = True  # the blank before the reading of the operation
+    line = ""  # what the message line holds
 
     def open_operation(self, program=PROGRAM):
         """Opens the screen and hears it, with its first exercise."""
         self.open_screen(program, self.name, "Numerador")
-        texts = self.heard_with("=")
-        lead = " " if texts[-1].startswith(" ") else ""
-        self.hear_exercise(texts)
-        self.assertEqual(texts, window(self.title) + locked("Numerador de la primera fracción", f"{self.n1}")
-                         + said(lead + self.operation()))
+        self.session.wait_heard("=")
+        self.hear_exercise(self.session.heard_so_far())
+        self.expect_window(self.title, locked("Numerador de la primera fracción", f"{self.n1}"), self.says_operation())
 
     def hear_exercise(self, texts):
         """Understands the reading of a new exercise, the last of `texts`."""
@@ -36,15 +36,24 @@ class OperationLesson(Lesson):
         n1, d1, n2, d2 = reading.groups()
         self.n1, self.d1, self.n2, self.d2 = CARDINALS.index(n1), PARTS.index(d1), CARDINALS.index(n2), PARTS.index(d2)
 
-    def operation(self, result=""):
-        return f"{fraction(self.n1, self.d1)}{self.sign}{fraction(self.n2, self.d2)}={result}"
+    def says_operation(self, result=""):
+        lead = " " if self.alternates and not self.line.startswith(" ") else ""
+        return self.says(f"{lead}{fraction(self.n1, self.d1)}{self.sign}{fraction(self.n2, self.d2)}={result}")
+
+    def says_fraction(self, words):
+        """Read by a key: a reading that the line holds already comes with a blank more."""
+        return self.says(words + (" " if words == self.line else ""))
+
+    def says(self, text):
+        self.line = text
+        return said(text)
 
     def next_exercise(self):
         """Presses Enter, which brings a new exercise."""
         self.session.press("Return")
-        texts = self.heard_with("=")
-        self.hear_exercise(texts)
-        self.assertEqual(texts[:-1], editable("Numerador del resultado", "") + said("=")[:-1])
+        self.session.wait_heard("=")
+        self.hear_exercise(self.session.heard_so_far())
+        self.expect(editable("Numerador del resultado", ""), self.says_operation())
 
     def answer(self, numerator, denominator):
         """Types an answer from the empty numerator on."""
@@ -62,21 +71,21 @@ class Suma(OperationLesson):
         first, second, total = fraction(self.n1, self.d1), fraction(self.n2, self.d2), self.n1 + self.n2
 
         # The reading keys, each twice: the same words with a blank more, or less.
-        self.press("F2", said(first))
-        self.press("F2", said(first + " "))
-        self.press("F3", said(" " + self.operation()))
-        self.press("F3", said(self.operation()))
+        self.press("F2", self.says_fraction(first))
+        self.press("F2", self.says_fraction(first))
+        self.press("F3", self.says_operation())
+        self.press("F3", self.says_operation())
 
         # Round the fractions to the right, and back in the row of the denominators.
-        self.press("ctrl+Right", locked("Numerador de la segunda fracción", f"{self.n2}"), said(second))
-        self.press("ctrl+Right", editable("Numerador del resultado", ""), said("cero ceros"))
-        self.press("ctrl+Right", locked("Numerador de la primera fracción", f"{self.n1}"), said(first))
+        self.press("ctrl+Right", locked("Numerador de la segunda fracción", f"{self.n2}"), self.says_fraction(second))
+        self.press("ctrl+Right", editable("Numerador del resultado", ""), self.says_fraction("cero ceros"))
+        self.press("ctrl+Right", locked("Numerador de la primera fracción", f"{self.n1}"), self.says_fraction(first))
         self.press("Tab", locked("Denominador de la primera fracción", f"{self.d1}"))
-        self.press("ctrl+Left", editable("Denominador del resultado", ""), said("cero ceros"))
-        self.press("ctrl+Left", locked("Denominador de la segunda fracción", f"{self.d1}"), said(second))
-        self.press("ctrl+Left", locked("Denominador de la primera fracción", f"{self.d1}"), said(first))
+        self.press("ctrl+Left", editable("Denominador del resultado", ""), self.says_fraction("cero ceros"))
+        self.press("ctrl+Left", locked("Denominador de la segunda fracción", f"{self.d1}"), self.says_fraction(second))
+        self.press("ctrl+Left", locked("Denominador de la primera fracción", f"{self.d1}"), self.says_fraction(first))
         self.press("shift+Tab", locked("Numerador de la primera fracción", f"{self.n1}"))
-        self.press("ctrl+Left", editable("Numerador del resultado", ""), said("cero ceros"))
+        self.press("ctrl+Left", editable("Numerador del resultado", ""), self.says_fraction("cero ceros"))
 
         # A wrong answer, two times; the focus stays.
         self.type("1")
@@ -89,7 +98,7 @@ class Suma(OperationLesson):
         # The right one; the verdict is heard on "Continuar", and Enter there brings the next exercise.
         self.press("alt+b")  # nothing to say: the focus is where it was, and the boxes are empty
         self.answer(total, self.d1)
-        self.press("F3", said(" " + self.operation(fraction(total, self.d1))))
+        self.press("F3", self.says_operation(fraction(total, self.d1)))
         self.press("shift+Tab", editable("Numerador del resultado", f"{total}"))
         self.press("Return", button("Continuar"), said("Resultado correcto "))
         self.press("shift+Tab", locked("Resultado", "Resultado correcto "))
@@ -99,7 +108,7 @@ class Suma(OperationLesson):
         # The solution is in the box and in the message, the same.
         total = self.n1 + self.n2
         self.press("Tab", editable("Denominador del resultado", ""))
-        self.press("alt+v", editable("Numerador del resultado", f"{total}"), said(fraction(total, self.d1)))
+        self.press("alt+v", editable("Numerador del resultado", f"{total}"), self.says(fraction(total, self.d1)))
         self.press("Tab", editable("Denominador del resultado", f"{self.d1}"))
 
         # An option, the key help, the score, and back to the menu.
@@ -113,8 +122,8 @@ class Suma(OperationLesson):
         self.press_return_for_box("Combinaciones de teclas", HELP)
         self.press("Return", window_again("SUMA DE FRACCIONES"), editable("Denominador del resultado", f"{self.d1}"))
         self.press("Tab", button("Hecho"))
-        self.press("F2", said("No hay ninguna fracción seleccionada"))
-        self.press("F2", said("No hay ninguna fracción seleccionada"))
+        self.press("F2", self.says("No hay ninguna fracción seleccionada"))
+        self.press("F2", self.says("No hay ninguna fracción seleccionada"))
         self.press("Tab", locked("Resultado", "Resultado correcto "))
         self.press("Tab", button("Continuar"))
         self.press("Tab", button("Borrar"))
@@ -147,19 +156,19 @@ class Diferencia(OperationLesson):
     def test_a_lesson(self):
         self.open_operation()
         self.assertEqual(self.d1, self.d2)
-        self.press("F3", said(self.operation()))
-        self.press("ctrl+Left", editable("Numerador del resultado", ""), said("cero ceros"))
+        self.press("F3", self.says_operation())
+        self.press("ctrl+Left", editable("Numerador del resultado", ""), self.says_fraction("cero ceros"))
 
         # A negative number is read as such; being wrong, it is cleared away.
         self.answer("-3", 4)
-        self.press("F2", said("menos tres cuartos"))
-        self.press("F3", said(" " + self.operation("menos tres cuartos")))
+        self.press("F2", self.says_fraction("menos tres cuartos"))
+        self.press("F3", self.says_operation("menos tres cuartos"))
         self.press("Return", editable("Numerador del resultado", ""), said("Resultado incorrecto "))
-        self.press("F3", said(self.operation()))
+        self.press("F3", self.says_operation())
         self.press("Return", said("Resultado incorrecto  "))
         self.answer("-1", 2)
-        self.press("F2", said("menos un medios"))
-        self.press("F3", said(" " + self.operation("menos un medio")))
+        self.press("F2", self.says_fraction("menos un medios"))
+        self.press("F3", self.says_operation("menos un medio"))
         self.press("alt+b", editable("Numerador del resultado", ""))
         self.answer(self.n1 - self.n2, self.d1)
         self.press("Return", button("Continuar"), said("Resultado correcto "))
@@ -175,7 +184,7 @@ class Diferencia(OperationLesson):
         common = math.lcm(self.d1, self.d2)
         difference = common // self.d1 * self.n1 - common // self.d2 * self.n2
         self.press("Tab", editable("Denominador del resultado", ""))
-        self.press("alt+v", editable("Numerador del resultado", f"{difference}"), said(fraction(difference, common)))
+        self.press("alt+v", editable("Numerador del resultado", f"{difference}"), self.says(fraction(difference, common)))
         self.press("alt+F4", window_again("KELVORA"), button(self.name))
 
 
@@ -184,26 +193,26 @@ class Producto(OperationLesson):
 
     def test_a_lesson(self):
         self.open_operation()
-        self.press("F3", said(self.operation()))
-        self.press("F3", said(" " + self.operation()))
+        self.press("F3", self.says_operation())
+        self.press("F3", self.says_operation())
         self.press("Return")  # checks nothing here, and there is nothing to say
-        self.press("ctrl+Left", editable("Numerador del resultado", ""), said("cero ceros"))
+        self.press("ctrl+Left", editable("Numerador del resultado", ""), self.says_fraction("cero ceros"))
 
         # A wrong answer stays, and its verdict is the same each time, since the key has emptied it.
-        self.answer(1, 9)
+        self.answer(1, 1000)
         self.press("Return", editable("Numerador del resultado", "1"), said("Resultado incorrecto "))
         self.press("Return", said("Resultado incorrecto "))
         self.press("alt+h", said("Resultado incorrecto  "))  # the focus is back where it was
         self.press("alt+b")
         self.answer(self.n1 * self.n2, self.d1 * self.d2)
         result = fraction(self.n1 * self.n2, self.d1 * self.d2)
-        self.press("F3", said(" " + self.operation(result)))
+        self.press("F3", self.says_operation(result))
         self.press("Return", button("Continuar"), said("Resultado correcto "))
         self.next_exercise()
 
         product = self.n1 * self.n2, self.d1 * self.d2
         self.press("Tab", editable("Denominador del resultado", ""))
-        self.press("alt+v", editable("Numerador del resultado", f"{product[0]}"), said(fraction(*product)))
+        self.press("alt+v", editable("Numerador del resultado", f"{product[0]}"), self.says(fraction(*product)))
 
         # No denominators to choose here.
         self.press("alt+o", ["Cantidades."])
@@ -215,25 +224,26 @@ class Producto(OperationLesson):
 
 class Cociente(OperationLesson):
     name, title, sign = "Cociente de fracciones", "COCIENTE DE FRACCIONES", "÷"
+    alternates = False
 
     def test_a_lesson(self):
         self.open_operation()
-        self.press("F3", said(self.operation()))
-        self.press("F3", said(self.operation()))
+        self.press("F3", self.says_operation())
+        self.press("F3", self.says_operation())
         self.press("Return", editable("Numerador del resultado", ""), said("Resultado incorrecto "))
-        self.answer(1, 9)
+        self.answer(1, 1000)
 
         # The focus stays on the buttons.
         self.press("alt+b", button("Borrar"))
         self.press("shift+Tab", button("Continuar"))
-        self.press("alt+v", button("Ver solución"), said(fraction(self.n1 * self.d2, self.d1 * self.n2)))
+        self.press("alt+v", button("Ver solución"), self.says(fraction(self.n1 * self.d2, self.d1 * self.n2)))
         self.press("alt+b", button("Borrar"))
         self.press("Return")
         self.press("shift+Tab", button("Continuar"))
         self.next_exercise()
 
         self.answer(self.n1 * self.d2, self.d1 * self.n2)
-        self.press("F3", said(self.operation(fraction(self.n1 * self.d2, self.d1 * self.n2))))
+        self.press("F3", self.says_operation(fraction(self.n1 * self.d2, self.d1 * self.n2)))
         self.press("Return", button("Continuar"), said("Resultado correcto "))
         self.press("alt+o", ["Cantidades."])
         self.press("Down", ["Combinaciones de teclas."])

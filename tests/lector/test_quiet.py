@@ -29,7 +29,7 @@ class Quiet(unittest.TestCase):
         session.press("Return")
         session.wait_heard("Resultado")
         session.press("alt+v", "alt+c", "alt+F4")
-        session.wait_heard("KELVORA")
+        session.wait_heard("botón")
         session.heard()
         session.press("alt+F4")
         self.assertEqual(program.wait(20), 0)

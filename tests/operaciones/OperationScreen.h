@@ -129,6 +129,37 @@ protected:
         return {fraction.section('/', 0, 0).toLongLong(), fraction.section('/', 1).toLongLong()};
     }
 
+    // Every value from 2 to the limit comes up in each of the four boxes.
+    static void VerifyAllSeen(const std::array<QSet<int>, 4>& seen, int range)
+    {
+        for (const QSet<int>& values : seen) {
+            QCOMPARE(values, From(2, limits.at(range)));
+        }
+    }
+
+    // The boxes hold what was drawn, without any further rule.
+    void VerifyFreeDraws(int range) const
+    {
+        std::array<QSet<int>, 4> seen;
+        int sameDenominators = 0;
+        DrawExercises(range, [&](const Operands& drawn, const Operands& shown) {
+            QCOMPARE(shown, drawn);
+            Collect(shown, seen);
+            sameDenominators += shown[1] == shown[3] ? 1 : 0;
+        });
+        VerifyAllSeen(seen, range);
+        QVERIFY(sameDenominators > 50);
+    }
+
+    // Four values drawn for different denominators: a clash is resolved downwards.
+    static Operands WithoutClash(Operands values)
+    {
+        if (values[1] == values[3]) {
+            values[3] = values[3] == 2 ? 3 : values[3] - 1;
+        }
+        return values;
+    }
+
     void Click(const QString& name) const { QTest::mouseClick(&Button(name), Qt::LeftButton); }
     void Choose(const QString& name) const { Entry(name).trigger(); }
     void Continue() const { Button("Command2(0)").click(); }
