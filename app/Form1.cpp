@@ -4,9 +4,12 @@
 #include "Dialogs.h"
 #include "Entero16.h"
 #include "Form2.h"
+#include "FormCantidad.h"
 #include "FormCociente.h"
 #include "FormDiferencia.h"
+#include "FormFichas.h"
 #include "FormProducto.h"
+#include "FormRepresentacion.h"
 
 #include <memory>
 
@@ -31,9 +34,9 @@ struct Entrada
 
 // A screen is wired here and nowhere else. The button after the last screen ends the program.
 constexpr std::array<Entrada, 11> entradas{{
-    {"Representación &gráfica", nullptr, Modality::Modal},
-    {"&Expresa con fracciones", nullptr, Modality::Modal},
-    {"&Fracción de una cantidad", nullptr, Modality::Modal},
+    {"Representación &gráfica", New<ejercicios::FormRepresentacion>, Modality::Modal},
+    {"&Expresa con fracciones", New<ejercicios::FormFichas>, Modality::Modal},
+    {"&Fracción de una cantidad", New<ejercicios::FormCantidad>, Modality::Modal},
     {"D&escomposición en factores primos", nullptr, Modality::Modeless},
     {"&Ordenar fracciones", nullptr, Modality::Modeless},
     {"&Conversión al mismo denominador", nullptr, Modality::Modeless},

@@ -23,4 +23,9 @@ std::string ConBlancoSiRepite(std::string texto, std::string_view contenido)
     return texto;
 }
 
+std::string ConBlancoDelanteSiRepite(std::string_view texto, std::string_view contenido)
+{
+    return std::string(texto == contenido ? " " : "").append(texto);
+}
+
 } // namespace lenguaje

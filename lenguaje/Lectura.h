@@ -14,4 +14,7 @@ std::string FraccionEnLetras(double numerador, double denominador, bool singular
 // `texto`, with one blank behind where the box that is to receive it holds exactly that text already.
 std::string ConBlancoSiRepite(std::string texto, std::string_view contenido);
 
+// The same with the blank in front.
+std::string ConBlancoDelanteSiRepite(std::string_view texto, std::string_view contenido);
+
 } // namespace lenguaje

@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <exception>
+#include <optional>
 
 namespace numeros {
 
@@ -27,6 +28,9 @@ public:
     // The nearest whole number, halves to the even neighbour. Throws Desbordamiento where that is out of range or
     // `valor` is not a number.
     static Entero16 Redondeado(double valor);
+
+    // The same, or nothing where it would throw.
+    static std::optional<Entero16> SiCabe(double valor);
 
     constexpr int Valor() const { return m_valor; }
 

@@ -3,6 +3,7 @@
 #include "Dialogs.h"
 #include "Keys.h"
 #include "Lectura.h"
+#include "Marcador.h"
 #include "Random.h"
 
 #include <cmath>
@@ -48,17 +49,6 @@ constexpr ui::ControlDesign Raya(int index, int left)
     return {.kind = Line, .name = "Line1", .index = index, .place = {left, 1060, 600, 30}};
 }
 
-constexpr ui::ControlDesign Boton(int index, std::string_view caption, int left, int tab, Color color)
-{
-    return {.kind = Button,
-            .name = "Command2",
-            .index = index,
-            .text = caption,
-            .place = {left, 2500, 1500, 500},
-            .tab = tab,
-            .color = color};
-}
-
 // The lower buttons cover the foot of "&Hecho" and the head of the verdict box.
 constexpr ui::ControlDesign controles[]{
     Caja(0, "Numerador de la primera fracción", 500, 500, 0, Typing::Locked),
@@ -87,9 +77,9 @@ constexpr ui::ControlDesign controles[]{
      .coloring = Coloring::Selection,
      .alignment = Alignment::Center,
      .coveredTop = 200},
-    Boton(0, "&Continuar", 1650, 10, Color::Cyan),
-    Boton(1, "&Borrar", 75, 11, Color::Green),
-    Boton(2, "&Ver solución", 3225, 12, Color::Red),
+    ui::ButtonDesign("Command2", 0, "&Continuar", {1650, 2500, 1500, 500}, 10, Color::Cyan),
+    ui::ButtonDesign("Command2", 1, "&Borrar", {75, 2500, 1500, 500}, 11, Color::Green),
+    ui::ButtonDesign("Command2", 2, "&Ver solución", {3225, 2500, 1500, 500}, 12, Color::Red),
     {.name = "TbMensajes", .says = "Mensajes", .place = {0, 3500, 4800, 495}, .tab = 13, .speaking = Speaking::Spoken},
     {.name = "tbResultados",
      .text = "Ejercicios:  0; Errores:  0",
@@ -98,13 +88,6 @@ constexpr ui::ControlDesign controles[]{
      .tab = 14,
      .points = 10.5},
 };
-
-// A number of the score line, right-aligned in three places; a longer one takes the room that it needs.
-std::string Alineado(int numero)
-{
-    const std::string cifras = std::to_string(numero);
-    return std::string(3 - std::min<std::size_t>(3, cifras.size()), ' ') + cifras;
-}
 
 } // namespace
 
@@ -154,19 +137,8 @@ void FormOperacion::Command1_Click()
 
 void FormOperacion::Command2_Click(int Index)
 {
-    switch (Index) {
-    case 0:
-        Continuar();
-        break;
-    case 1:
-        Borrar();
-        break;
-    case 2:
-        VerSolucion();
-        break;
-    default:
-        break;
-    }
+    constexpr std::array acciones{&FormOperacion::Continuar, &FormOperacion::Borrar, &FormOperacion::VerSolucion};
+    (this->*acciones.at(static_cast<std::size_t>(Index)))();
 }
 
 KeyResult FormOperacion::Text1_KeyPress(int, int KeyAscii)
@@ -305,7 +277,7 @@ void FormOperacion::Contar(bool correcto)
 
 void FormOperacion::MostrarResultados()
 {
-    tbResultados.Text("Ejercicios:" + Alineado(Ejercicios.Valor()) + "; Errores:" + Alineado(Errores.Valor()));
+    tbResultados.Text(lenguaje::Marcador(Ejercicios.Valor(), Errores.Valor()));
 }
 
 std::string FormOperacion::LeerFraccion(int indice)

@@ -18,6 +18,9 @@ QAccessibleInterface* Interface(const QString&, QObject* object)
     if (auto* line = qobject_cast<LineWidget*>(object)) {
         return new QAccessibleWidget(line, QAccessible::Separator); // a plain widget is called a filler
     }
+    if (auto* picture = qobject_cast<PictureWidget*>(object)) {
+        return new QAccessibleWidget(picture, QAccessible::Grouping);
+    }
 #if QT_VERSION < QT_VERSION_CHECK(6, 8, 0)
     return InterfaceBefore68(object);
 #else

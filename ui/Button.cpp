@@ -1,5 +1,7 @@
 #include "Button.h"
 
+#include "Accessible.h"
+#include "Announcer.h"
 #include "Strings.h"
 
 #include <QKeyEvent>
@@ -86,7 +88,8 @@ Button::Button(const ControlDesign& design, QWidget* parent)
 {
 }
 
-Button::Button(const ControlDesign& design, FaceButton* button) : Control(design, *button), m_button(*button)
+Button::Button(const ControlDesign& design, FaceButton* button)
+    : Control(design, *button), m_button(*button), m_says(ToQString(design.says))
 {
     Caption(design.text);
     QObject::connect(button, &QPushButton::clicked, button, [this] {
@@ -98,11 +101,33 @@ Button::Button(const ControlDesign& design, FaceButton* button) : Control(design
 
 void Button::Caption(std::string_view caption)
 {
-    QString text = ToQString(caption);
-    m_button.setText(text);
-    if (Design().says.empty()) {
+    if (const QString text = ToQString(caption); text != m_button.text()) {
+        m_button.setText(text);
+        NameChanged();
+    }
+}
+
+void Button::Says(std::string_view name)
+{
+    if (const QString says = ToQString(name); says != m_says) {
+        m_says = says;
+        NameChanged();
+    }
+}
+
+void Button::NameChanged()
+{
+    QString name = m_says;
+    if (name.isEmpty()) {
         static const QRegularExpression lineEnds("[\\r\\n]+");
-        m_button.setAccessibleName(text.remove('&').replace(lineEnds, " "));
+        name = m_button.text().remove('&').replace(lineEnds, " ");
+    }
+    if (name == m_button.accessibleName()) {
+        return;
+    }
+    m_button.setAccessibleName(name);
+    if (!newNamesAreRead && m_button.hasFocus()) {
+        Announcer::Instance().Say(m_button, name);
     }
 }
 

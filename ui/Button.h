@@ -6,6 +6,7 @@
 #include <QPushButton>
 
 #include <functional>
+#include <string>
 
 namespace ui {
 
@@ -34,9 +35,14 @@ class Button final : public Control
 public:
     Button(const ControlDesign& design, QWidget* parent);
 
-    // "&" stands before the access key; line breaks are kept. The accessible name is the caption without either, unless
-    // the design gives another.
+    // UTF-8. "&" stands before the access key; line breaks are kept. A button that has the focus and gets another
+    // caption is read again.
+    std::string Caption() const { return m_button.text().toStdString(); }
     void Caption(std::string_view caption);
+
+    // The accessible name. Without one it is the caption, without "&" and line breaks.
+    void Says(std::string_view name);
+
     void BackColor(Color color) { m_button.SetFace(ToQColor(color)); }
 
     // Handler, with the button's index in its array.
@@ -45,7 +51,10 @@ public:
 private:
     Button(const ControlDesign& design, FaceButton* button);
 
+    void NameChanged();
+
     FaceButton& m_button;
+    QString m_says;
 };
 
 } // namespace ui

@@ -27,6 +27,11 @@ void Control::Enabled(bool enabled)
     m_widget.setEnabled(enabled);
 }
 
+void Control::Visible(bool visible)
+{
+    m_widget.setVisible(visible);
+}
+
 void Control::Move(const Place& place)
 {
     m_place = place;
@@ -65,7 +70,7 @@ KeyResult Control::KeyPressed(int)
 
 QFont Control::Font() const
 {
-    QFont font(ToQString(m_design.font));
+    QFont font(Families(ToQString(m_design.font)));
     font.setPixelSize(std::max(1, static_cast<int>(std::lround(m_design.points * pixelsPerPoint * m_typeScale))));
     return font;
 }

@@ -27,6 +27,7 @@ public:
 
     void SetFocus();
     void Enabled(bool enabled);
+    void Visible(bool visible);
 
     // Moves the control; in twips, inside what holds it.
     void Move(const Place& place);

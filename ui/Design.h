@@ -12,12 +12,13 @@ namespace ui {
 inline constexpr int noIndex = -1;
 inline constexpr int noTab = -1;
 
-enum class Kind { OneLine, MultiLine, Button, Label, Frame, Line };
+// A picture box holds other controls and has no focus of its own.
+enum class Kind { OneLine, MultiLine, Button, Label, Frame, Picture, Line };
 
 // A locked box takes focus and caret, but no typing.
 enum class Typing { Editable, Locked };
 
-// Whatever the program writes to a spoken box is announced.
+// Whatever the program writes to a spoken box or label is announced.
 enum class Speaking { Silent, Spoken };
 
 // The desktop's colours for text boxes, or those for selected text.
@@ -30,11 +31,11 @@ struct ControlDesign
     Kind kind = Kind::OneLine;
     std::string_view name = {};
     int index = noIndex;
-    std::string_view text = {};  // initial text, or caption with "&" before the access key
-    std::string_view says = {};  // the accessible name; empty where the caption serves
-    Place place = {};            // inside the client area, or inside `frame`
-    int tab = noTab;             // position in the tab order
-    std::string_view frame = {}; // the object name of the frame that holds the control
+    std::string_view text = {};   // initial text, or caption with "&" before the access key
+    std::string_view says = {};   // the accessible name; empty where the caption serves
+    Place place = {};             // in the client area, or in what the control is `inside`
+    int tab = noTab;              // position in the tab order
+    std::string_view inside = {}; // the object name of the frame or picture box that holds the control
     Typing typing = Typing::Locked;
     Speaking speaking = Speaking::Silent;
     Coloring coloring = Coloring::Plain;
@@ -45,6 +46,14 @@ struct ControlDesign
     int coveredTop = 0; // twips that a neighbour in front covers, and in which nothing is painted
     int coveredBottom = 0;
 };
+
+// The row of a button in a table of controls.
+constexpr ControlDesign ButtonDesign(std::string_view name, int index, std::string_view text, const Place& place,
+                                     int tab, Color color)
+{
+    return {
+        .kind = Kind::Button, .name = name, .index = index, .text = text, .place = place, .tab = tab, .color = color};
+}
 
 enum class Checking { None, Unchecked, Checked };
 

@@ -1,11 +1,16 @@
-// What a text box needs of its widget, be it one line or several.
+// What a text box needs of its widget, be it one line or several, and what the two have in common.
 #pragma once
 
+#include "Design.h"
+
 #include <QObject>
+#include <QPalette>
 #include <QString>
 
 #include <functional>
 #include <utility>
+
+class QPainter;
 
 namespace ui {
 
@@ -28,6 +33,9 @@ public:
     virtual int SelLength() const = 0;
     virtual void Select(int start, int length) = 0;
 
+    // Takes the colours from the desktop's theme.
+    virtual void TakeColors() = 0;
+
     // Puts the caret at the start, but not before the screen reader has been told of the focus: a caret that moves
     // first is all that it would notice. A key that comes before that finds the caret there too (SettleCaret).
     void CaretToStart(QObject& widget)
@@ -45,6 +53,13 @@ public:
 
     // Called when the pupil, and not the program, has changed the text.
     std::function<void()> edited;
+
+protected:
+    // The theme's colours for a box. A locked one is not white like those that wait for an answer.
+    static QPalette Colors(Coloring coloring, bool locked);
+
+    // Paints the edge of a box, thick where the box has the focus.
+    static void PaintEdge(QPainter& painter, const QRect& area, const QPalette& colors, bool locked, bool focused);
 
 private:
     bool m_caretIsMoving = false;

@@ -25,6 +25,8 @@ std::unique_ptr<Control> Create(const ControlDesign& design, QWidget* parent)
         return std::make_unique<Label>(design, parent);
     case Kind::Frame:
         return std::make_unique<Frame>(design, parent);
+    case Kind::Picture:
+        return std::make_unique<Picture>(design, parent);
     case Kind::Line:
         return std::make_unique<Line>(design, parent);
     }
@@ -110,7 +112,8 @@ bool Form::eventFilter(QObject* watched, QEvent* event)
     if (watched == centralWidget() && event->type() == QEvent::Resize) {
         Arrange();
     }
-    Control* control = ControlOf(watched);
+    // A key that a box in a frame leaves alone comes to the frame too, and is none of the frame's.
+    Control* control = watched == focusWidget() ? ControlOf(watched) : nullptr;
     KeyResult result = KeyResult::Pass;
     if (control != nullptr && event->type() == QEvent::KeyPress) {
         result = KeyPressed(*control, *static_cast<QKeyEvent*>(event));
@@ -124,8 +127,8 @@ void Form::BuildControls()
 {
     for (const ControlDesign& design : m_design.controls) {
         QWidget* parent = centralWidget();
-        if (!design.frame.empty()) {
-            parent = parent->findChild<QWidget*>(ToQString(design.frame));
+        if (!design.inside.empty()) {
+            parent = parent->findChild<QWidget*>(ToQString(design.inside));
         }
         m_controls.push_back(Create(design, parent));
         m_controls.back()->Widget().installEventFilter(this);
@@ -171,7 +174,7 @@ void Form::Arrange()
     const QSize drawn = ToPixels({0, 0, m_design.width, m_design.height}, scale).size();
     const QPoint centred((size.width() - drawn.width()) / 2, (size.height() - drawn.height()) / 2);
     for (const std::unique_ptr<Control>& control : m_controls) {
-        control->Scale(scale, control->Design().frame.empty() ? centred : QPoint());
+        control->Scale(scale, control->Design().inside.empty() ? centred : QPoint());
     }
 }
 

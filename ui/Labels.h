@@ -1,4 +1,4 @@
-// Controls that are only looked at: labels, frames and lines.
+// Controls that are only looked at: labels, frames, picture boxes and lines.
 #pragma once
 
 #include "Control.h"
@@ -8,7 +8,8 @@
 
 namespace ui {
 
-// A label's access key moves the focus to the control that follows the label in the tab order.
+// A label's access key moves the focus to the control that follows the label in the tab order. Its type shrinks, and
+// its text takes several lines, until the text fits.
 class Label final : public Control
 {
 public:
@@ -16,8 +17,13 @@ public:
 
     void Caption(std::string_view caption);
 
+protected:
+    void PutInPlace() override;
+
 private:
     Label(const ControlDesign& design, QLabel* label);
+
+    void Fit();
 
     QLabel& m_label;
 };
@@ -42,6 +48,31 @@ class Frame final : public Control
 {
 public:
     Frame(const ControlDesign& design, QWidget* parent) : Control(design, *new FrameWidget(design, parent)) {}
+};
+
+// The widget of a picture box: a thin edge round whatever controls lie in it.
+class PictureWidget final : public QWidget
+{
+    Q_OBJECT
+
+public:
+    using QWidget::QWidget;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+};
+
+class Picture final : public Control
+{
+public:
+    Picture(const ControlDesign& design, QWidget* parent) : Control(design, *new PictureWidget(parent)) {}
+
+    // The inner size, in twips.
+    int ScaleWidth() const { return Design().place.width; }
+    int ScaleHeight() const { return Design().place.height; }
+
+    // A cell of a grid of equal cells that fills the box. Neighbours share their edges to the twip.
+    Place Cell(int columns, int rows, int column, int row) const;
 };
 
 // A horizontal or vertical bar that fills its place.

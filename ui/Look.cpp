@@ -54,6 +54,15 @@ QColor ReadableOn(const QColor& background, const QColor& wanted)
     return Contrast(background, black) > Contrast(background, white) ? black : white;
 }
 
+QStringList Families(const QString& family)
+{
+    QStringList families{family};
+    if (family == "Comic Sans MS") {
+        families += "Comic Neue";
+    }
+    return families << "Liberation Sans" << "DejaVu Sans";
+}
+
 QFont Fitting(QFont font, const QString& text, const QSize& area, int flags, int smallest)
 {
     constexpr int neverFits = 500; // characters; measuring a pasted megabyte once for every size takes seconds

@@ -5,6 +5,7 @@
 #include <QFont>
 #include <QRect>
 #include <QString>
+#include <QStringList>
 
 #include <cstdint>
 
@@ -35,6 +36,10 @@ double Contrast(const QColor& a, const QColor& b);
 
 // `wanted`, or black or white where that can be read better and `wanted` has less than 4.5:1 on `background`.
 QColor ReadableOn(const QColor& background, const QColor& wanted);
+
+// The families in which type asked for in `family` is drawn, best first. A desktop without Comic Sans would offer
+// handwriting instead, which is hard to read.
+QStringList Families(const QString& family);
 
 // `font` in the largest size from its own down to `smallest` pixels in which `text` fits into `area`, drawn with Qt
 // text `flags`; in the smallest where it fits in none.

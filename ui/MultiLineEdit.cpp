@@ -1,6 +1,7 @@
 #include "MultiLineEdit.h"
 
 #include <QFocusEvent>
+#include <QPainter>
 #include <QTextBlock>
 
 namespace ui {
@@ -28,11 +29,14 @@ QString FromDocument(QString text)
 
 } // namespace
 
-MultiLineEdit::MultiLineEdit(const ControlDesign& design, QWidget* parent) : QPlainTextEdit(parent)
+MultiLineEdit::MultiLineEdit(const ControlDesign& design, QWidget* parent) : QPlainTextEdit(parent), m_coloring(design.coloring)
 {
+    setFrameShape(QFrame::NoFrame); // the edge is painted here, as that of the boxes of one line
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff); // the caret leads to what does not fit
     setReadOnly(design.typing == Typing::Locked);
     setTextInteractionFlags(textInteractionFlags() | Qt::TextSelectableByKeyboard); // a caret in locked boxes too
     setTabChangesFocus(true);
+    TakeColors();
     connect(this, &QPlainTextEdit::textChanged, this, [this] {
         if (edited && !m_writing) {
             edited();
@@ -73,12 +77,35 @@ void MultiLineEdit::Select(int start, int length)
     setTextCursor(cursor);
 }
 
+void MultiLineEdit::TakeColors()
+{
+    setPalette(Colors(m_coloring, isReadOnly()));
+}
+
 void MultiLineEdit::focusInEvent(QFocusEvent* event)
 {
     QPlainTextEdit::focusInEvent(event);
+    viewport()->update(); // the edge too
     if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason) {
         CaretToStart(*this);
     }
+}
+
+void MultiLineEdit::focusOutEvent(QFocusEvent* event)
+{
+    QPlainTextEdit::focusOutEvent(event);
+    viewport()->update();
+}
+
+void MultiLineEdit::paintEvent(QPaintEvent* event)
+{
+    QPlainTextEdit::paintEvent(event);
+    QPainter painter(viewport());
+    if (hasFocus() && isReadOnly() && !textCursor().hasSelection()) {
+        const QRect caret = cursorRect(); // of a locked box Qt shows no caret
+        painter.fillRect(QRect(caret.left(), caret.top(), 1, caret.height()), palette().color(QPalette::Text));
+    }
+    PaintEdge(painter, viewport()->rect(), palette(), isReadOnly(), hasFocus());
 }
 
 } // namespace ui

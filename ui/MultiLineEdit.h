@@ -21,11 +21,15 @@ public:
     int SelStart() const override;
     int SelLength() const override;
     void Select(int start, int length) override;
+    void TakeColors() override;
 
 protected:
     void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
 
 private:
+    const Coloring m_coloring;
     bool m_writing = false;
 };
 

@@ -1,6 +1,5 @@
 #include "OneLineEdit.h"
 
-#include <QApplication>
 #include <QFocusEvent>
 #include <QPainter>
 
@@ -55,19 +54,7 @@ void OneLineEdit::SetFullFont(const QFont& font)
 
 void OneLineEdit::TakeColors()
 {
-    QPalette colors = QApplication::palette();
-    if (m_coloring == Coloring::Selection) {
-        const QColor background = colors.color(QPalette::Highlight);
-        const QColor type = ReadableOn(background, colors.color(QPalette::HighlightedText));
-        colors.setColor(QPalette::Base, background);
-        colors.setColor(QPalette::Text, type);
-        colors.setColor(QPalette::Highlight, type);
-        colors.setColor(QPalette::HighlightedText, background);
-    } else if (isReadOnly()) {
-        colors.setColor(QPalette::Base, colors.color(QPalette::Window));
-        colors.setColor(QPalette::Text, colors.color(QPalette::WindowText));
-    }
-    setPalette(colors);
+    setPalette(Colors(m_coloring, isReadOnly()));
 }
 
 void OneLineEdit::focusInEvent(QFocusEvent* event)
@@ -97,12 +84,7 @@ void OneLineEdit::paintEvent(QPaintEvent* event)
         painter.fillRect(QRect(caret.center().x(), caret.top(), 1, caret.height()), palette().color(QPalette::Text));
     }
     const QRect area = mask().isEmpty() ? rect() : mask().boundingRect();
-    const int width = hasFocus() ? 2 : 1;
-    QColor edge = palette().color(QPalette::WindowText);
-    edge.setAlphaF(isReadOnly() && !hasFocus() ? 0.35F : 1.0F);
-    painter.setPen(QPen(edge, width, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
-    const int inset = width / 2;
-    painter.drawRect(area.adjusted(inset, inset, -1, -1));
+    PaintEdge(painter, area, palette(), isReadOnly(), hasFocus());
 }
 
 void OneLineEdit::resizeEvent(QResizeEvent* event)

@@ -25,8 +25,7 @@ public:
     // The type that the box has when its text is short.
     void SetFullFont(const QFont& font);
 
-    // Takes its colours from the desktop's theme.
-    void TakeColors();
+    void TakeColors() override;
 
 protected:
     void focusInEvent(QFocusEvent* event) override;

@@ -1,5 +1,7 @@
 #include "Random.h"
 
+#include <QTime>
+
 #include <chrono>
 #include <random>
 
@@ -15,6 +17,12 @@ std::optional<std::uint32_t> fixedSeed;
 std::uint32_t TimerSeed()
 {
     return static_cast<std::uint32_t>(std::chrono::steady_clock::now().time_since_epoch().count());
+}
+
+std::uint32_t TimeOfDaySeed()
+{
+    const QTime now = QTime::currentTime();
+    return static_cast<std::uint32_t>((now.hour() + 1) * (now.minute() + 1) * (now.second() + 1));
 }
 
 void Randomize(std::uint32_t seed)

@@ -9,6 +9,9 @@ namespace ui {
 // A seed from the clock.
 std::uint32_t TimerSeed();
 
+// The time of day as a seed: (hour + 1) * (minute + 1) * (second + 1), 1 to 86400.
+std::uint32_t TimeOfDaySeed();
+
 // Starts the generator anew. Where FixSeed has set a seed, that one is used instead.
 void Randomize(std::uint32_t seed);
 

@@ -19,16 +19,14 @@ std::pair<QWidget*, EditWidget*> Create(const ControlDesign& design, QWidget* pa
     return {widget, widget};
 }
 
-// Writes into a box that is not in focus, and tells the screen reader of the text but of no caret. A caret that has
-// moved is taken for the arrival in the box where the focus follows at once, and then nothing is said of that.
-void WriteUnfocused(QWidget& widget, EditWidget& edit, const QString& text)
+// Runs `change` on a box that is not in focus without a word to the screen reader. Qt tells of every caret that moves,
+// and that is taken for the arrival in the box where the focus follows at once; then nothing is said of that.
+template <class Change>
+void Silently(Change change)
 {
-    const QString before = edit.ExactText();
     const auto handler = QAccessible::installUpdateHandler([](QAccessibleEvent*) {});
-    edit.SetExactText(text);
+    change();
     QAccessible::installUpdateHandler(handler);
-    QAccessibleTextUpdateEvent event(&widget, 0, before, text);
-    QAccessible::updateAccessibility(&event);
 }
 
 } // namespace
@@ -55,16 +53,23 @@ void TextBox::Text(std::string_view text)
 {
     const QString value = ToQString(text);
     if (value != m_edit.ExactText()) {
-        if (Widget().hasFocus()) {
-            m_edit.SetExactText(value);
-        } else {
-            WriteUnfocused(Widget(), m_edit, value);
-        }
+        Write(value);
         Changed();
     }
     if (Design().speaking == Speaking::Spoken) {
         Announcer::Instance().Say(Widget(), value);
     }
+}
+
+void TextBox::Write(const QString& value)
+{
+    if (Widget().hasFocus()) {
+        m_edit.SetExactText(value);
+        return;
+    }
+    QAccessibleTextUpdateEvent event(&Widget(), 0, m_edit.ExactText(), value);
+    Silently([&] { m_edit.SetExactText(value); });
+    QAccessible::updateAccessibility(&event);
 }
 
 void TextBox::Text(int number)
@@ -88,14 +93,26 @@ void TextBox::PutInPlace()
 void TextBox::Select(int start, int length)
 {
     m_edit.SettleCaret(); // which would otherwise undo the selection
-    m_edit.Select(start, length);
+    if (Widget().hasFocus()) {
+        m_edit.Select(start, length);
+    } else {
+        Silently([&] { m_edit.Select(start, length); });
+    }
+}
+
+void TextBox::SelectAll()
+{
+    Select(0, static_cast<int>(m_edit.ExactText().size()));
+}
+
+void TextBox::Say() const
+{
+    Announcer::Instance().Say(Widget(), m_edit.ExactText());
 }
 
 void TextBox::TakeColors()
 {
-    if (auto* oneLine = qobject_cast<OneLineEdit*>(&Widget())) {
-        oneLine->TakeColors();
-    }
+    m_edit.TakeColors();
 }
 
 KeyResult TextBox::KeyDown(int keyCode, int shift)

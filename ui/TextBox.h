@@ -30,6 +30,10 @@ public:
     int SelStart() const { return m_edit.SelStart(); }
     int SelLength() const { return m_edit.SelLength(); }
     void Select(int start, int length);
+    void SelectAll();
+
+    // Announces the text, of a box that is not spoken whenever the program writes to it.
+    void Say() const;
 
     void TakeColors() override;
     KeyResult KeyDown(int keyCode, int shift) override;
@@ -45,6 +49,7 @@ protected:
 
 private:
     TextBox(const ControlDesign& design, std::pair<QWidget*, EditWidget*> widget);
+    void Write(const QString& value);
     void Changed() const;
 
     EditWidget& m_edit;

@@ -1,25 +1,26 @@
-// A pupil who answers wrongly once more than the counters can count. Prints the last score, and the message that ends
-// the program; its exit status is the program's.
+// A pupil who leads a number out of its range: by answering wrongly once more than the counters can count, or with a
+// quantity and a numerator of one's own. Prints the score before and after, and the message that ends the program; its
+// exit status is the program's.
 #include "Application.h"
 #include "Form2.h"
+#include "FormCantidad.h"
 #include "Support.h"
 
+#include <QAction>
+#include <QInputDialog>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QTimer>
 
 #include <cstdio>
+#include <string_view>
 
 namespace {
 
-void AnswerWronglyTooOften(const QWidget& form)
+// Presses Enter, which is the end.
+void PressTheLastKey(const QWidget& form)
 {
-    constexpr int most = 32767;
     const auto& score = support::Child<QLineEdit>(form, "tbResultados");
-    support::Child<QLineEdit>(form, "Text1(5)").setFocus();
-    for (int i = 0; i < most; ++i) {
-        support::Press(Qt::Key_Return);
-    }
     std::printf("%s\n", qPrintable(score.text()));
     support::WithDialog([] { support::Press(Qt::Key_Return); },
                         [](QWidget& dialog) {
@@ -32,16 +33,48 @@ void AnswerWronglyTooOften(const QWidget& form)
     std::printf("%s\n", qPrintable(score.text()));
 }
 
+void AnswerWronglyTooOften(const QWidget& form)
+{
+    constexpr int most = 32767;
+    support::Child<QLineEdit>(form, "Text1(5)").setFocus();
+    for (int i = 0; i < most; ++i) {
+        support::Press(Qt::Key_Return);
+    }
+    PressTheLastKey(form);
+}
+
+void AskForTooMuch(QWidget& form)
+{
+    const auto type = [](const char* value) {
+        return [value](QWidget& dialog) {
+            dynamic_cast<QInputDialog&>(dialog).setTextValue(value);
+            QTest::keyClick(&dialog, Qt::Key_Return);
+        };
+    };
+    support::WithDialogs([&form] { support::Child<QAction>(form, "MnuOpcCan").trigger(); },
+                         {type("2520")}); // which every denominator divides
+    support::WithDialogs([&form] { support::Child<QAction>(form, "MnuOpcFrac").trigger(); }, {type("14"), type("2")});
+    form.activateWindow();
+    support::WaitActive(form);
+    support::Child<QLineEdit>(form, "Text6").setFocus();
+    PressTheLastKey(form); // 2520 * 14 is 35280
+}
+
 } // namespace
 
 int main(int argc, char** argv)
 {
     ui::Application application(argc, argv);
-    auto* form = new operaciones::Form2;
+    const bool counting = std::string_view(argv[argc - 1]) == "counting";
+    ui::Form* form = counting ? static_cast<ui::Form*>(new operaciones::Form2) : new ejercicios::FormCantidad;
     form->Open(ui::Modality::Modeless);
-    QTimer::singleShot(0, form, [form] {
+    QTimer::singleShot(0, form, [form, counting] {
         support::WaitActive(*form);
-        AnswerWronglyTooOften(*form);
+        if (counting) {
+            AnswerWronglyTooOften(*form);
+        } else {
+            AskForTooMuch(*form);
+        }
     });
     return ui::Application::exec();
 }

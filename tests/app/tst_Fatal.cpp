@@ -6,14 +6,24 @@ class tst_Fatal : public QObject
     Q_OBJECT
 
 private slots:
-    void a_counter_beyond_its_range_ends_the_program_with_a_message()
+    void a_number_beyond_its_range_ends_the_program_with_a_message_data()
     {
+        QTest::addColumn<QString>("way");
+        QTest::addColumn<QString>("score");
+        QTest::addRow("counter") << "counting"
+                                 << "Ejercicios:32767; Errores:32767";
+        QTest::addRow("product") << "multiplying"
+                                 << "Ejercicios:  0; Errores:  0";
+    }
+    void a_number_beyond_its_range_ends_the_program_with_a_message()
+    {
+        QFETCH(QString, way);
+        QFETCH(QString, score);
         QProcess program;
-        program.start(OVERFLOW_PROGRAM, QStringList());
+        program.start(OVERFLOW_PROGRAM, {way});
         QVERIFY(program.waitForFinished(240'000));
         QCOMPARE(program.exitStatus(), QProcess::NormalExit);
         QCOMPARE(program.exitCode(), 1);
-        const QString score = "Ejercicios:32767; Errores:32767";
         QCOMPARE(QString::fromUtf8(program.readAllStandardOutput()).split('\n'),
                  QStringList({score,
                               "critical Kelvora: Un número se ha salido del intervalo permitido, de -32768 a 32767. "

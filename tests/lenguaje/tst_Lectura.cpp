@@ -60,6 +60,14 @@ private slots:
         QCOMPARE(ConBlancoSiRepite("uno", "uno "), "uno");
         QCOMPARE(ConBlancoSiRepite("uno ", "uno "), "uno  ");
     }
+
+    void or_one_in_front()
+    {
+        QCOMPARE(ConBlancoDelanteSiRepite("uno", ""), "uno");
+        QCOMPARE(ConBlancoDelanteSiRepite("uno", "uno"), " uno");
+        QCOMPARE(ConBlancoDelanteSiRepite("uno", " uno"), "uno");
+        QCOMPARE(ConBlancoDelanteSiRepite("uno", "uno "), "uno");
+    }
 };
 
 QTEST_APPLESS_MAIN(tst_Lectura)

@@ -38,6 +38,16 @@ private slots:
         QCOMPARE(n.Valor(), 32767);
     }
 
+    void fits_or_gives_nothing()
+    {
+        QCOMPARE(Entero16::SiCabe(32767.4)->Valor(), 32767);
+        QCOMPARE(Entero16::SiCabe(-32768.5)->Valor(), -32768);
+        QVERIFY(!Entero16::SiCabe(32767.5));
+        QVERIFY(!Entero16::SiCabe(-32769));
+        QVERIFY(!Entero16::SiCabe(std::numeric_limits<double>::quiet_NaN()));
+        QVERIFY(!Entero16::SiCabe(1e300));
+    }
+
     void rounds_halves_to_the_even_neighbour()
     {
         QCOMPARE(Entero16::Redondeado(0.5).Valor(), 0);

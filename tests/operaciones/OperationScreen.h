@@ -1,16 +1,9 @@
-// What the tests of the operation screens share: one screen that is open, the pupil's hands on it, and an ear.
+// What the tests of the operation screens share: exercises, answers and draws.
 #pragma once
 
-#include "Form.h"
-#include "Random.h"
-#include "Support.h"
-
-#include <QAction>
-#include <QLineEdit>
-#include <QPushButton>
+#include "Screen.h"
 
 #include <array>
-#include <memory>
 #include <vector>
 
 // First numerator and denominator, second numerator and denominator.
@@ -19,34 +12,10 @@ using Operands = std::array<int, 4>;
 constexpr std::array limits{10, 20, 100};
 constexpr int manyExercises = 10'000;
 
-class OperationScreen
+class OperationScreen : protected support::Screen
 {
 protected:
-    void OpenScreen(ui::Form* form)
-    {
-        m_ear = std::make_unique<support::Ear>();
-        m_form = form;
-        m_form->Open(ui::Modality::Modeless);
-        QVERIFY(support::WaitActive(*m_form));
-    }
-
-    void CloseScreen()
-    {
-        if (m_form) {
-            m_form->close();
-        }
-        support::Settle();
-        QVERIFY(!m_form);
-        m_ear.reset();
-        ui::FixSeed({});
-        QVERIFY(QApplication::topLevelWidgets().isEmpty());
-    }
-
-    QLineEdit& Box(const QString& name) const { return support::Child<QLineEdit>(*m_form, name); }
-    QLineEdit& Text1(int index) const { return Box(QString("Text1(%1)").arg(index)); }
-    QString Text(const QString& name) const { return Box(name).text(); }
-    QAction& Entry(const QString& name) const { return support::Child<QAction>(*m_form, name); }
-    QPushButton& Button(const QString& name) const { return support::Child<QPushButton>(*m_form, name); }
+    QLineEdit& Text1(int index) const { return Member<QLineEdit>("Text1", index); }
 
     // A box that does not hold a plain number shows as -1, which no screen draws.
     Operands Shown() const
@@ -160,10 +129,6 @@ protected:
         return values;
     }
 
-    void Click(const QString& name) const { QTest::mouseClick(&Button(name), Qt::LeftButton); }
-    void Choose(const QString& name) const { Entry(name).trigger(); }
-    void Continue() const { Button("Command2(0)").click(); }
-
     // Chooses range 0, 1 or 2 and has many exercises made. Of each, `verify` gets the four values drawn with the same
     // seed, in their order, and the four shown.
     template <class Verify>
@@ -187,7 +152,4 @@ protected:
             }
         }
     }
-
-    QPointer<ui::Form> m_form;
-    std::unique_ptr<support::Ear> m_ear;
 };

@@ -20,7 +20,7 @@ constexpr auto ctrl = Qt::ControlModifier;
 enum class AfterWrong { Stays, ToResult, Emptied };
 
 // A screen, and what it makes of 5/7 and 3/7.
-struct Screen
+struct Expected
 {
     const char* title;
     ui::Form* (*create)();
@@ -44,7 +44,7 @@ ui::Form* New()
     return new Form;
 }
 
-constexpr Screen screens[]{
+constexpr Expected screens[]{
     {.title = "SUMA DE FRACCIONES",
      .create = New<operaciones::Form2>,
      .sign = "+",
@@ -91,7 +91,7 @@ class tst_FormOperacion : public QObject, private OperationScreen
     Q_OBJECT
 
 private:
-    const Screen* m_screen = nullptr;
+    const Expected* m_screen = nullptr;
 
     void SetExercise() const { SetOperands({5, 7, 3, 7}); }
     QString Numerator() const { return QString::number(m_screen->numerator); }
@@ -124,15 +124,15 @@ private:
 private slots:
     void initTestCase_data()
     {
-        QTest::addColumn<const Screen*>("screen");
-        for (const Screen& screen : screens) {
+        QTest::addColumn<const Expected*>("screen");
+        for (const Expected& screen : screens) {
             QTest::addRow("%s", QString(screen.title).section(' ', 0, 0).toLatin1().constData()) << &screen;
         }
     }
 
     void init()
     {
-        QFETCH_GLOBAL(const Screen*, screen);
+        QFETCH_GLOBAL(const Expected*, screen);
         m_screen = screen;
         ui::FixSeed(7);
         OpenScreen(screen->create());

@@ -2,6 +2,7 @@
 
 #include "Application.h"
 
+#include <QDialog>
 #include <QPointer>
 #include <QTimer>
 
@@ -36,6 +37,8 @@ Ear::~Ear()
 
 QStringList Ear::Take()
 {
+    // Announcements go out at the end of an event; a test may have written outside of any.
+    QCoreApplication::postEvent(qApp, new QEvent(QEvent::User));
     Settle();
     return std::exchange(s_heard, {});
 }
@@ -102,25 +105,33 @@ QString Focus()
     return focus == nullptr ? "-" : focus->objectName();
 }
 
-void WithDialog(const std::function<void()>& action, const std::function<void(QWidget& dialog)>& answer)
+void WithDialogs(const std::function<void()>& action, const std::vector<DialogAnswer>& answers)
 {
-    bool opened = false;
+    std::size_t opened = 0;
+    QPointer<QWidget> answered;
     QTimer timer;
     QObject::connect(&timer, &QTimer::timeout, &timer, [&] {
-        QWidget* dialog = QApplication::activeModalWidget();
-        if (dialog != nullptr && dialog->isVisible()) {
-            timer.stop();
-            opened = true;
-            const QPointer<QWidget> guarded = dialog;
-            answer(*dialog);
-            if (QTest::currentTestFailed() && guarded) {
-                guarded->close(); // a check in `answer` has failed before its last key
-            }
+        const QPointer<QWidget> dialog = QApplication::activeModalWidget();
+        if (!dialog || !dialog->isVisible() || dialog == answered || qobject_cast<QDialog*>(dialog) == nullptr) {
+            return;
+        }
+        answered = dialog;
+        if (opened < answers.size()) {
+            answers[opened](*dialog);
+        }
+        ++opened;
+        if (dialog && (opened > answers.size() || QTest::currentTestFailed())) {
+            dialog->close(); // nobody answers it, or a check in the answer has failed before its last key
         }
     });
     timer.start(5);
     action();
-    QTRY_VERIFY(opened);
+    QTRY_COMPARE(opened, answers.size());
+}
+
+void WithDialog(const std::function<void()>& action, const DialogAnswer& answer)
+{
+    WithDialogs(action, {answer});
 }
 
 } // namespace support

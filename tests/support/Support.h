@@ -8,6 +8,7 @@
 #include <QWidget>
 
 #include <functional>
+#include <vector>
 
 namespace support {
 
@@ -49,9 +50,11 @@ void Type(const QString& text);
 // The object name of the widget that has the focus, or "-".
 QString Focus();
 
-// Runs `answer` when a modal dialog has opened, with the dialog, and then what `action` does to open it. Fails the test
-// where none opens.
-void WithDialog(const std::function<void()>& action, const std::function<void(QWidget& dialog)>& answer);
+// Runs `action`, which opens modal dialogs one after the other, and each of the `answers` with its dialog. Fails the
+// test where fewer dialogs open, or more.
+using DialogAnswer = std::function<void(QWidget& dialog)>;
+void WithDialogs(const std::function<void()>& action, const std::vector<DialogAnswer>& answers);
+void WithDialog(const std::function<void()>& action, const DialogAnswer& answer);
 
 // The child of this name, which must exist.
 template <class T>

@@ -81,6 +81,41 @@ private slots:
         QCOMPARE(m_clicked, QStringList("CbUno/-1"));
     }
 
+    void a_name_of_its_own_comes_before_the_caption()
+    {
+        const auto name = [this] {
+            return QAccessible::queryAccessibleInterface(&Widget("CbUno"))->text(QAccessible::Name);
+        };
+        auto& button = m_form->The<ui::Button>("CbUno");
+        button.Says("ficha roja");
+        QCOMPARE(name(), "ficha roja");
+        button.Caption("R");
+        QCOMPARE(button.Caption(), "R");
+        QCOMPARE(name(), "ficha roja");
+        button.Says("");
+        QCOMPARE(name(), "R");
+    }
+
+    void a_new_name_of_the_button_in_focus_is_told_once()
+    {
+        Ear ear;
+        const auto told = [&ear] {
+            const QStringList said = ear.TakeSaid();
+            return QT_VERSION < QT_VERSION_CHECK(6, 8, 0) ? said : QStringList("not by an announcement") + said;
+        };
+        const QStringList once =
+            QT_VERSION < QT_VERSION_CHECK(6, 8, 0) ? QStringList("2 - rojo") : QStringList("not by an announcement");
+        auto& button = m_form->The<ui::Button>("CbUno");
+        button.SetFocus();
+        ear.Take();
+        button.Caption("2 - rojo");
+        QCOMPARE(told(), once);
+        button.Caption("2 - rojo"); // no new one
+        QCOMPARE(ear.TakeSaid(), QStringList());
+        m_form->The<ui::Button>("CbDos").Caption("3 - rojo"); // not in focus
+        QCOMPARE(ear.TakeSaid(), QStringList());
+    }
+
     void the_face_keeps_its_colour_in_every_theme_and_the_caption_is_black()
     {
         QPalette dark;

@@ -119,6 +119,65 @@ private slots:
         QCOMPARE(Focus(), "Text1(0)");
     }
 
+    void a_spoken_label_announces_what_is_written_to_it()
+    {
+        Open();
+        Ear ear;
+        m_form->The<ui::Label>("LbCuenta").Caption("Rojas: 2.");
+        QCOMPARE(ear.TakeSaid(), QStringList("Rojas: 2."));
+        m_form->The<ui::Label>("LbCuenta").Caption("Rojas: 2.");
+        QCOMPARE(ear.TakeSaid(), QStringList("Rojas: 2."));
+        m_form->The<ui::Label>("Label1").Caption("Otra:");
+        QCOMPARE(ear.TakeSaid(), QStringList());
+    }
+
+    void the_type_of_a_label_shrinks_until_its_text_fits()
+    {
+        Open();
+        const int before = Child<QLabel>(*m_form, "LbCuenta").font().pixelSize();
+        m_form->The<ui::Label>("LbCuenta").Caption("Rojas: 12; Total: 25.");
+        const auto& label = Child<QLabel>(*m_form, "LbCuenta");
+        QVERIFY(label.font().pixelSize() < before);
+        const QRect drawn = QFontMetrics(label.font()).boundingRect(label.rect(), Qt::TextWordWrap, label.text());
+        QVERIFY(label.rect().contains(drawn));
+    }
+
+    void the_cells_of_a_picture_box_share_their_edges()
+    {
+        Open();
+        const auto& picture = m_form->The<ui::Picture>("Picture1");
+        QCOMPARE(QAccessible::queryAccessibleInterface(&picture.Widget())->role(), QAccessible::Grouping);
+        for (const int columns : {1, 2, 3, 5}) {
+            for (const int rows : {1, 4, 7}) {
+                for (int column = 0; column < columns; ++column) {
+                    for (int row = 0; row < rows; ++row) {
+                        const ui::Place cell = picture.Cell(columns, rows, column, row);
+                        const ui::Place next = picture.Cell(columns, rows, column + 1, row + 1);
+                        QCOMPARE(cell.left + cell.width, next.left);
+                        QCOMPARE(cell.top + cell.height, next.top);
+                        QVERIFY(std::abs(cell.width - 1000.0 / columns) < 1);
+                        QVERIFY(std::abs(cell.height - 500.0 / rows) < 1);
+                    }
+                }
+                const ui::Place last = picture.Cell(columns, rows, columns - 1, rows - 1);
+                QCOMPARE(last.left + last.width, picture.ScaleWidth());
+                QCOMPARE(last.top + last.height, picture.ScaleHeight());
+            }
+        }
+    }
+
+    void a_control_can_be_out_of_sight_and_out_of_the_tab_order()
+    {
+        Open();
+        m_form->The<ui::TextBox>("TBFrac").Visible(false);
+        Box("TbDesco").SetFocus();
+        Press(Qt::Key_Tab);
+        QCOMPARE(Focus(), "TbMensajes");
+        m_form->The<ui::TextBox>("TBFrac").Visible(true);
+        Press(Qt::Key_Backtab, Qt::ShiftModifier);
+        QCOMPARE(Focus(), "TBFrac");
+    }
+
     void tab_leaves_boxes_of_several_lines()
     {
         Open();
@@ -141,14 +200,15 @@ private slots:
             return KeyResult::Pass;
         };
         Open();
-        for (const char* name : {"Text1(0)", "Text1(1)", "TbDesco", "Command2(0)"}) {
+        for (const char* name : {"Text1(0)", "Text1(1)", "TbDesco", "TBFrac", "Command2(0)"}) {
             Child<QWidget>(*m_form, name).setFocus();
             seen.clear();
             Press(Qt::Key_F2);
             Press(Qt::Key_L, Qt::ShiftModifier);
             Press(Qt::Key_R, Qt::ControlModifier);
             Press(Qt::Key_Delete);
-            QCOMPARE(seen, QStringList({"113/0", "76/1", "82/2", "46/0"}));
+            Press(Qt::Key_L, Qt::ControlModifier); // which no box handles
+            QCOMPARE(seen, QStringList({"113/0", "76/1", "82/2", "46/0", "76/2"}));
         }
     }
 

@@ -26,6 +26,12 @@ private slots:
         QCOMPARE(ToQColor(Color::Cyan), QColor(0, 255, 255));
     }
 
+    void type_has_a_sans_serif_to_fall_back_on()
+    {
+        QCOMPARE(Families("Comic Sans MS").mid(0, 2), QStringList({"Comic Sans MS", "Comic Neue"}));
+        QCOMPARE(Families("Arial").mid(0, 2), QStringList({"Arial", "Liberation Sans"}));
+    }
+
     void contrast_follows_wcag()
     {
         QVERIFY(std::abs(Contrast(Qt::black, Qt::white) - 21) < 0.001);

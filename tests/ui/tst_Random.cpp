@@ -1,6 +1,7 @@
 #include "Random.h"
 
 #include <QTest>
+#include <QTime>
 
 #include <set>
 
@@ -21,6 +22,22 @@ private slots:
             sum += value;
         }
         QVERIFY(std::abs(sum / 100'000 - 0.5) < 0.01);
+    }
+
+    void the_time_of_day_is_a_seed()
+    {
+        const auto expected = [] {
+            const QTime now = QTime::currentTime();
+            return static_cast<std::uint32_t>((now.hour() + 1) * (now.minute() + 1) * (now.second() + 1));
+        };
+        std::uint32_t before = 0;
+        std::uint32_t seed = 0;
+        do { // until no second passes in between
+            before = expected();
+            seed = ui::TimeOfDaySeed();
+        } while (before != expected());
+        QCOMPARE(seed, before);
+        QVERIFY(seed >= 1 && seed <= 86'400);
     }
 
     void draws_cover_their_range_and_no_more()

@@ -217,6 +217,54 @@ private slots:
         QAccessible::installUpdateHandler(previous);
     }
 
+    void selecting_tells_of_a_caret_only_where_the_focus_is()
+    {
+        static int told;
+        const auto previous = QAccessible::installUpdateHandler([](QAccessibleEvent* event) {
+            const auto type = event->type();
+            told += type == QAccessible::TextCaretMoved || type == QAccessible::TextSelectionChanged ? 1 : 0;
+        });
+        m_form->The<ui::Button>("CbUno").SetFocus();
+        told = 0;
+        Editable().SelectAll();
+        QCOMPARE(told, 0);
+        QCOMPARE(Editable().SelLength(), 3);
+        Editable().SetFocus();
+        QCOMPARE(Editable().SelLength(), 3);
+        told = 0;
+        Editable().Select(1, 1);
+        QVERIFY(told > 0);
+        QAccessible::installUpdateHandler(previous);
+    }
+
+    void a_silent_box_can_be_announced()
+    {
+        Ear ear;
+        Editable().Text("10");
+        QCOMPARE(ear.TakeSaid(), QStringList());
+        Editable().Say();
+        QCOMPARE(ear.TakeSaid(), QStringList("10"));
+    }
+
+    void a_box_of_several_lines_shows_that_it_is_locked_or_in_focus()
+    {
+        auto& box = dynamic_cast<QPlainTextEdit&>(Lines().Widget());
+        const auto edge = [&box] {
+            const QImage picture = box.grab().toImage();
+            return std::pair(picture.pixelColor(0, 10), picture.pixelColor(1, 10));
+        };
+        m_form->The<ui::Button>("CbUno").SetFocus();
+        const QColor type = box.palette().color(QPalette::WindowText);
+        const QColor inside = box.palette().color(QPalette::Base);
+        QCOMPARE(edge(), std::pair(type, inside));
+        QCOMPARE(inside, QApplication::palette().color(QPalette::Base));
+        Lines().SetFocus();
+        QCOMPARE(edge(), std::pair(type, type));
+        box.setReadOnly(true);
+        Lines().TakeColors();
+        QCOMPARE(box.palette().color(QPalette::Base), QApplication::palette().color(QPalette::Window));
+    }
+
     void keys_that_follow_a_tab_at_once_are_typed_in_their_order()
     {
         for (ui::TextBox* box : {&Editable(), &Lines()}) {

@@ -1,0 +1,13 @@
+// Numbers to text.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace numeros {
+
+// `valor` in up to 15 significant digits, without zeros behind the last one that counts, and with `separador` before
+// the decimals.
+std::string EnCifras(double valor, std::string_view separador);
+
+} // namespace numeros
