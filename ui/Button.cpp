@@ -117,15 +117,18 @@ void Button::Says(std::string_view name)
 
 void Button::NameChanged()
 {
+    static const QRegularExpression lineEnds("[\\r\\n]+");
     QString name = m_says;
     if (name.isEmpty()) {
-        static const QRegularExpression lineEnds("[\\r\\n]+");
         name = m_button.text().remove('&').replace(lineEnds, " ");
     }
-    if (name == m_button.accessibleName()) {
+    if (name == m_name) {
         return;
     }
-    m_button.setAccessibleName(name);
+    m_name = name;
+    // Qt makes the name of a caption of one line itself, and tells of it once.
+    const bool byQt = m_says.isEmpty() && !m_button.text().contains(lineEnds);
+    m_button.setAccessibleName(byQt ? QString() : name);
     if (!newNamesAreRead && m_button.hasFocus()) {
         Announcer::Instance().Say(m_button, name);
     }

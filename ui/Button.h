@@ -55,6 +55,7 @@ private:
 
     FaceButton& m_button;
     QString m_says;
+    QString m_name;
 };
 
 } // namespace ui

@@ -1,5 +1,6 @@
 #include "Dialogs.h"
 
+#include "Silence.h"
 #include "Strings.h"
 
 #include <QApplication>
@@ -56,7 +57,7 @@ std::string InputBox(std::string_view prompt, std::string_view title, std::strin
     QInputDialog box(QApplication::activeWindow());
     box.setWindowTitle(TitleOr(title));
     box.setLabelText(ToQString(prompt));
-    box.setTextValue(ToQString(initial));
+    Silently([&] { box.setTextValue(ToQString(initial)); }); // it is read when the box opens
     box.setOkButtonText("Aceptar");
     box.setCancelButtonText("Cancelar");
     return box.exec() == QDialog::Accepted ? box.textValue().toStdString() : std::string();

@@ -60,7 +60,8 @@ QStringList Families(const QString& family)
     if (family == "Comic Sans MS") {
         families += "Comic Neue";
     }
-    return families << "Liberation Sans" << "DejaVu Sans";
+    return families << "Liberation Sans"
+                    << "DejaVu Sans";
 }
 
 QFont Fitting(QFont font, const QString& text, const QSize& area, int flags, int smallest)

@@ -29,9 +29,10 @@ QString FromDocument(QString text)
 
 } // namespace
 
-MultiLineEdit::MultiLineEdit(const ControlDesign& design, QWidget* parent) : QPlainTextEdit(parent), m_coloring(design.coloring)
+MultiLineEdit::MultiLineEdit(const ControlDesign& design, QWidget* parent)
+    : QPlainTextEdit(parent), m_coloring(design.coloring)
 {
-    setFrameShape(QFrame::NoFrame); // the edge is painted here, as that of the boxes of one line
+    setFrameShape(QFrame::NoFrame);                     // the edge is painted here, as that of the boxes of one line
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff); // the caret leads to what does not fit
     setReadOnly(design.typing == Typing::Locked);
     setTextInteractionFlags(textInteractionFlags() | Qt::TextSelectableByKeyboard); // a caret in locked boxes too

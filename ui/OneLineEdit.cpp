@@ -1,5 +1,7 @@
 #include "OneLineEdit.h"
 
+#include "Silence.h"
+
 #include <QFocusEvent>
 #include <QPainter>
 
@@ -62,9 +64,17 @@ void OneLineEdit::focusInEvent(QFocusEvent* event)
     // Qt selects the whole text of a box that is reached by Tab, and every step would be read with "selected".
     QFocusEvent withoutSelecting(QEvent::FocusIn, Qt::OtherFocusReason);
     QLineEdit::focusInEvent(&withoutSelecting);
-    if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason) {
+    // What is selected on arrival the screen has selected, and it stays.
+    const bool byTab = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
+    if (byTab && !hasSelectedText()) {
         CaretToStart(*this);
     }
+}
+
+void OneLineEdit::focusOutEvent(QFocusEvent* event)
+{
+    Silently([this] { deselect(); }); // as Qt does, but the pupil has left and need not hear of it
+    QLineEdit::focusOutEvent(event);
 }
 
 void OneLineEdit::paintEvent(QPaintEvent* event)

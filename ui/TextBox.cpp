@@ -3,10 +3,9 @@
 #include "Announcer.h"
 #include "MultiLineEdit.h"
 #include "OneLineEdit.h"
+#include "Silence.h"
 #include "Strings.h"
 #include "Val.h"
-
-#include <QAccessible>
 
 namespace ui {
 
@@ -17,16 +16,6 @@ std::pair<QWidget*, EditWidget*> Create(const ControlDesign& design, QWidget* pa
 {
     auto* widget = new Widget(design, parent);
     return {widget, widget};
-}
-
-// Runs `change` on a box that is not in focus without a word to the screen reader. Qt tells of every caret that moves,
-// and that is taken for the arrival in the box where the focus follows at once; then nothing is said of that.
-template <class Change>
-void Silently(Change change)
-{
-    const auto handler = QAccessible::installUpdateHandler([](QAccessibleEvent*) {});
-    change();
-    QAccessible::installUpdateHandler(handler);
 }
 
 } // namespace
@@ -44,6 +33,17 @@ TextBox::TextBox(const ControlDesign& design, std::pair<QWidget*, EditWidget*> w
     m_edit.edited = [this] { Changed(); };
 }
 
+// In focus the reader follows the box; elsewhere nobody does.
+template <class Change>
+void TextBox::Alter(Change change)
+{
+    if (Widget().hasFocus()) {
+        change();
+    } else {
+        Silently(change);
+    }
+}
+
 std::string TextBox::Text() const
 {
     return m_edit.ExactText().toStdString();
@@ -53,23 +53,12 @@ void TextBox::Text(std::string_view text)
 {
     const QString value = ToQString(text);
     if (value != m_edit.ExactText()) {
-        Write(value);
+        Alter([&] { m_edit.SetExactText(value); });
         Changed();
     }
     if (Design().speaking == Speaking::Spoken) {
         Announcer::Instance().Say(Widget(), value);
     }
-}
-
-void TextBox::Write(const QString& value)
-{
-    if (Widget().hasFocus()) {
-        m_edit.SetExactText(value);
-        return;
-    }
-    QAccessibleTextUpdateEvent event(&Widget(), 0, m_edit.ExactText(), value);
-    Silently([&] { m_edit.SetExactText(value); });
-    QAccessible::updateAccessibility(&event);
 }
 
 void TextBox::Text(int number)
@@ -93,11 +82,7 @@ void TextBox::PutInPlace()
 void TextBox::Select(int start, int length)
 {
     m_edit.SettleCaret(); // which would otherwise undo the selection
-    if (Widget().hasFocus()) {
-        m_edit.Select(start, length);
-    } else {
-        Silently([&] { m_edit.Select(start, length); });
-    }
+    Alter([&] { m_edit.Select(start, length); });
 }
 
 void TextBox::SelectAll()

@@ -49,7 +49,8 @@ protected:
 
 private:
     TextBox(const ControlDesign& design, std::pair<QWidget*, EditWidget*> widget);
-    void Write(const QString& value);
+    template <class Change>
+    void Alter(Change change);
     void Changed() const;
 
     EditWidget& m_edit;

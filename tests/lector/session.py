@@ -166,6 +166,14 @@ class Session:
         wait_for(lambda: any(line.startswith("END ") and text in line for line in self._lines()[self._read:]),
                  f"the voice to say {text!r}")
 
+    def wait_heard_match(self, pattern):
+        """Waits until a text that begins with the compiled `pattern` has been spoken to its end since the last `heard`;
+        the match."""
+        def match():
+            ended = (line[4:] for line in self._lines()[self._read:] if line.startswith("END "))
+            return next((found for found in map(pattern.match, ended) if found), None)
+        return wait_for(match, f"the voice to say {pattern.pattern!r}")
+
     def _lines(self):
         return self.transcript.read_text(errors="replace").splitlines()
 
