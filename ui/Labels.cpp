@@ -15,16 +15,22 @@ Label::Label(const ControlDesign& design, QLabel* label) : Control(design, *labe
 {
     label->setFocusPolicy(Qt::NoFocus); // though it has a place in the tab order
     label->setWordWrap(true);
-    label->setText(ToQString(design.text));
+    Write(design.text);
 }
 
 void Label::Caption(std::string_view caption)
 {
-    m_label.setText(ToQString(caption));
+    Write(caption);
     Fit();
     if (Design().speaking == Speaking::Spoken) {
         Announcer::Instance().Say(m_label, m_label.text());
     }
+}
+
+void Label::Write(std::string_view text)
+{
+    m_label.setText(ToQString(text));
+    m_label.setAccessibleName(m_label.text().remove('&')); // Qt 6.8 would tell the "&" too
 }
 
 void Label::PutInPlace()

@@ -23,6 +23,7 @@ protected:
 private:
     Label(const ControlDesign& design, QLabel* label);
 
+    void Write(std::string_view text);
     void Fit();
 
     QLabel& m_label;

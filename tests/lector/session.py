@@ -212,7 +212,7 @@ class Session:
         for line in new:
             if line.startswith("START "):
                 text = line[6:]
-                if "\N{REPLACEMENT CHARACTER}" in text or not text.isprintable():
+                if not text or "\N{REPLACEMENT CHARACTER}" in text or not text.isprintable():
                     continue  # what Speech Dispatcher 0.12 hands on for a single character or key is not its text
                 if text in ended:
                     ended.remove(text)

@@ -119,6 +119,17 @@ private slots:
         QCOMPARE(Focus(), "Text1(0)");
     }
 
+    void the_name_of_a_label_has_no_ampersand()
+    {
+        Open();
+        const auto name = [this] {
+            return QAccessible::queryAccessibleInterface(&Child<QLabel>(*m_form, "Label1"))->text(QAccessible::Name);
+        };
+        QCOMPARE(name(), "Partes:");
+        m_form->The<ui::Label>("Label1").Caption("Par&tes:");
+        QCOMPARE(name(), "Partes:");
+    }
+
     void a_spoken_label_announces_what_is_written_to_it()
     {
         Open();
