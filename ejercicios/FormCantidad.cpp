@@ -41,7 +41,7 @@ constexpr ui::ControlDesign Numero(int index, std::string_view says, const ui::P
 constexpr ui::ControlDesign controles[]{
     {.name = "Text1",
      .text = "CALCULA",
-     .says = "Instrucción",
+     .says = "Instrucciones",
      .place = {1000, 100, 3000, 500},
      .tab = 0,
      .alignment = Alignment::Center},
@@ -107,13 +107,13 @@ constexpr ui::MenuDesign menus[]{
 
 std::string EnLetras(Entero16 valor, bool esDenominador)
 {
-    return lenguaje::NumeroEnLetras(valor.Valor(), esDenominador, Variante::Entera);
+    return lenguaje::EnLetras(valor.Valor(), esDenominador, Variante::Entera);
 }
 
-// Whether the quantity can be divided without a rest, or the pupil wants to go on all the same.
-bool SePuedeDividir(Entero16 cantidad, Entero16 denominador, std::string_view titulo)
+// Whether the quantity can be divided without a remainder, or the pupil wants to go on all the same.
+bool ConfirmarDivision(Entero16 cantidad, Entero16 denominador, std::string_view titulo)
 {
-    return cantidad.Valor() % denominador.Valor() <= 0 ||
+    return cantidad.Valor() % denominador.Valor() == 0 ||
            ui::MsgBoxYesNo("La división de la cantidad entre el denominador no es exacta ¿desea continuar?", titulo) ==
                ui::Answer::Yes;
 }
@@ -215,7 +215,7 @@ void FormCantidad::MnuOpcFrac_Click()
         return;
     }
     const auto denominador = PedirValor("Introduzca el denominador de la fracción:", titulo, Denominador, 2);
-    if (!denominador || !SePuedeDividir(Cantidad, *denominador, {})) {
+    if (!denominador || !ConfirmarDivision(Cantidad, *denominador, {})) {
         return;
     }
     Numerador = *numerador;
@@ -227,7 +227,7 @@ void FormCantidad::MnuOpcCan_Click()
 {
     constexpr std::string_view titulo = "Introducir cantidad";
     const auto cantidad = PedirValor("Introduzca la cantidad:", titulo, Cantidad, 0);
-    if (!cantidad || !SePuedeDividir(*cantidad, Denominador, titulo)) {
+    if (!cantidad || !ConfirmarDivision(*cantidad, Denominador, titulo)) {
         return;
     }
     Cantidad = *cantidad;
@@ -274,13 +274,14 @@ void FormCantidad::Borrar()
 void FormCantidad::VerSolucion()
 {
     constexpr std::size_t caben = 5; // characters of the solution that are shown
-    Text6.Text(numeros::EnCifras(Resultado(), ui::DecimalSeparator()).substr(0, caben));
+    Text6.Text(numeros::EnCifras(Resultado(), caben, ui::DecimalSeparator()));
     puntuable = false;
     Text6.SelectAll();
     Text6.SetFocus();
 }
 
-// Two blanks before "de": one belongs to the name of the fraction, with or without the "s" of the plural.
+// The name of the fraction, singular or plural, brings a blank of its own, so that there are two before "de"; a
+// fraction of nothing has neither "s" nor blank.
 std::string FormCantidad::TextoFraccionCantidad() const
 {
     std::string texto = EnLetras(Numerador, false) + " " + EnLetras(Denominador, true);

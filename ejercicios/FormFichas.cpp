@@ -182,8 +182,7 @@ void FormFichas::DibujarFichas(bool nuevo)
         PonerFicha(i);
     }
     Label1.Caption("Rojas: " + std::to_string(Rojas.Valor()) + "; Amarillas: " + std::to_string(Amarillas.Valor()) +
-                   "; Verdes: " + std::to_string(Verdes.Valor()) +
-                   "; Total: " + std::to_string((Columnas * Filas).Valor()) + ".");
+                   "; Verdes: " + std::to_string(Verdes.Valor()) + "; Total: " + std::to_string(Total.Valor()) + ".");
 }
 
 // A board of at least three tokens, and at least one of each colour.
@@ -192,11 +191,11 @@ void FormFichas::NuevasCantidades()
     do {
         Columnas = ui::Draw(5, 1);
         Filas = ui::Draw(5, 1);
-    } while ((Columnas * Filas).Valor() < 3);
-    const int total = (Columnas * Filas).Valor();
-    Rojas = ui::Draw(total - 2, 1);
-    Amarillas = ui::Draw(total - Rojas.Valor() - 1, 1);
-    Verdes = total - Rojas.Valor() - Amarillas.Valor();
+        Total = Columnas * Filas;
+    } while (Total.Valor() < 3);
+    Rojas = ui::Draw(Total.Valor() - 2, 1);
+    Amarillas = ui::Draw((Total - Rojas).Valor() - 1, 1);
+    Verdes = Total - Rojas - Amarillas;
 }
 
 // Row by row: the red ones, the yellow ones, the green ones.
@@ -204,31 +203,31 @@ void FormFichas::PonerFicha(int indice)
 {
     ui::Button& ficha = CBFicha[indice];
     const int columnas = Columnas.Valor();
-    const int filas = Filas.Valor();
-    const bool seVe = indice < columnas * filas;
+    const bool seVe = indice < Total.Valor();
     ficha.Enabled(seVe);
     ficha.Visible(seVe);
     if (!seVe) {
         ficha.Move({Picture1.ScaleWidth(), Picture1.ScaleHeight(), 225, 225});
         return;
     }
-    ficha.Move(Picture1.Cell(columnas, filas, indice % columnas, indice / columnas));
+    ficha.Move(Picture1.Cell(columnas, Filas.Valor(), indice % columnas, indice / columnas));
 
-    struct Aspecto
-    {
-        Color color;
-        std::string_view letra;
-        std::string_view nombre;
-    };
-    constexpr Aspecto roja{Color::Red, "R", "ficha roja "};
-    constexpr Aspecto amarilla{Color::Yellow, "A", "ficha amarilla "};
-    constexpr Aspecto verde{Color::Green, "V", "ficha verde "};
-    const bool esRoja = indice < Rojas.Valor();
-    const bool esAmarilla = !esRoja && indice < (Rojas + Amarillas).Valor();
-    const Aspecto& aspecto = esRoja ? roja : esAmarilla ? amarilla : verde;
+    const Aspecto& aspecto = AspectoDe(indice);
     ficha.BackColor(aspecto.color);
     ficha.Caption(LetrasVisibles ? aspecto.letra : "");
-    ficha.Says(std::string(aspecto.nombre) + std::to_string(indice + 1)); // the colour is told with and without letters
+    ficha.Says(std::string(aspecto.nombre) + " " +
+               std::to_string(indice + 1)); // the colour is told with and without letters
+}
+
+const FormFichas::Aspecto& FormFichas::AspectoDe(int indice) const
+{
+    static constexpr Aspecto roja{Color::Red, "R", "ficha roja"};
+    static constexpr Aspecto amarilla{Color::Yellow, "A", "ficha amarilla"};
+    static constexpr Aspecto verde{Color::Green, "V", "ficha verde"};
+    if (indice < Rojas.Valor()) {
+        return roja;
+    }
+    return indice < (Rojas + Amarillas).Valor() ? amarilla : verde;
 }
 
 void FormFichas::VaciarRespuesta()
@@ -249,7 +248,7 @@ void FormFichas::VerSolucion()
 
 std::array<int, 6> FormFichas::Solucion() const
 {
-    const int total = (Columnas * Filas).Valor();
+    const int total = Total.Valor();
     return {Rojas.Valor(), total, Amarillas.Valor(), total, Verdes.Valor(), total};
 }
 

@@ -20,7 +20,7 @@ private:
     void Command1_Click();
     void Command2_Click(int Index);
 
-    // Makes a new exercise where `nuevo`, and lays out and colours the tokens in any case.
+    // Makes a new exercise if `nuevo`, and lays out and colours the tokens in any case.
     void DibujarFichas(bool nuevo);
 
     void NuevasCantidades();
@@ -28,7 +28,16 @@ private:
     void VaciarRespuesta();
     void VerSolucion();
 
-    // What belongs into the six boxes.
+    // How a token looks and what it says.
+    struct Aspecto
+    {
+        ui::Color color;
+        std::string_view letra;
+        std::string_view nombre;
+    };
+    const Aspecto& AspectoDe(int indice) const;
+
+    // What belongs in the six boxes.
     std::array<int, 6> Solucion() const;
 
     ui::Picture& Picture1 = The<ui::Picture>("Picture1");
@@ -42,6 +51,7 @@ private:
     numeros::Entero16 Rojas;
     numeros::Entero16 Amarillas;
     numeros::Entero16 Verdes;
+    numeros::Entero16 Total;
     numeros::Entero16 Columnas;
     numeros::Entero16 Filas;
     numeros::Entero16 Ejercicios;

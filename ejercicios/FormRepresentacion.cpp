@@ -103,8 +103,7 @@ constexpr ui::ControlDesign fijos[]{
      .text = "Ejercicios:  0; Errores:  0",
      .says = "Marcador",
      .place = {1750, 7500, 3000, 495},
-     .tab = 25,
-     .points = 10.5},
+     .tab = 25},
 };
 
 constexpr auto controles = [] {
@@ -319,15 +318,12 @@ void FormRepresentacion::VerSolucion()
 
 std::string FormRepresentacion::NumeradorEnLetras() const
 {
-    bool esDenominador = false;
-    return Numerador == 1 ? "uno" : lenguaje::NumeroEnLetras(Numerador.Valor(), esDenominador, Variante::Entera);
+    return Numerador == 1 ? "uno" : lenguaje::EnLetras(Numerador.Valor(), false, Variante::Entera);
 }
 
 std::string FormRepresentacion::DenominadorEnLetras() const
 {
-    bool esDenominador = true;
-    return lenguaje::NumeroEnLetras(Denominador.Valor(), esDenominador, Variante::Entera) +
-           (Numerador.Valor() >= 2 ? "s" : "");
+    return lenguaje::EnLetras(Denominador.Valor(), true, Variante::Entera) + (Numerador.Valor() >= 2 ? "s" : "");
 }
 
 } // namespace ejercicios

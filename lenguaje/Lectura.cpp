@@ -2,13 +2,16 @@
 
 namespace lenguaje {
 
+std::string EnLetras(double valor, bool esDenominador, Variante variante)
+{
+    return NumeroEnLetras(valor, esDenominador, variante);
+}
+
 std::string FraccionEnLetras(double numerador, double denominador, bool singular, Variante variante)
 {
-    bool esDenominador = false;
-    std::string texto = NumeroEnLetras(numerador, esDenominador, variante);
-    esDenominador = true;
+    std::string texto = EnLetras(numerador, false, variante);
     texto += ' ';
-    texto += NumeroEnLetras(denominador, esDenominador, variante);
+    texto += EnLetras(denominador, true, variante);
     if (!singular) {
         texto += 's';
     }

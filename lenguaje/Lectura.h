@@ -8,6 +8,9 @@
 
 namespace lenguaje {
 
+// `valor` in words, as a denominator or not.
+std::string EnLetras(double valor, bool esDenominador, Variante variante);
+
 // "tres cuartos", "un medio": numerator and denominator in words, with an "s" behind unless `singular`.
 std::string FraccionEnLetras(double numerador, double denominador, bool singular, Variante variante);
 

@@ -7,7 +7,7 @@
 namespace numeros {
 
 // `valor` in up to 15 significant digits, without zeros behind the last one that counts, and with `separador` before
-// the decimals.
-std::string EnCifras(double valor, std::string_view separador);
+// the decimals. What does not go into `caben` characters is cut off.
+std::string EnCifras(double valor, std::size_t caben, std::string_view separador);
 
 } // namespace numeros

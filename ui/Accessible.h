@@ -9,8 +9,10 @@ namespace ui {
 
 // Whether the screen reader by itself reads a control in focus whose name changes. Before Qt 6.8 it gets no name with
 // that event, on Windows before 6.11 no event.
-#ifdef Q_OS_WIN
+#if defined(Q_OS_WIN)
 inline constexpr bool newNamesAreRead = QT_VERSION >= QT_VERSION_CHECK(6, 11, 0);
+#elif defined(Q_OS_MACOS)
+inline constexpr bool newNamesAreRead = false; // not tried
 #else
 inline constexpr bool newNamesAreRead = QT_VERSION >= QT_VERSION_CHECK(6, 8, 0);
 #endif

@@ -1,4 +1,4 @@
-// A pupil who leads a number out of its range: by answering wrongly once more than the counters can count, or with a
+// A pupil who drives a number out of its range: by answering wrongly once more than the counters can count, or with a
 // quantity and a numerator of one's own. Prints the score before and after, and the message that ends the program; its
 // exit status is the program's.
 #include "Application.h"

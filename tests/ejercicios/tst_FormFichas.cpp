@@ -157,6 +157,16 @@ private slots:
         QVERIFY(Box("TBResultado").isReadOnly());
     }
 
+    void buttons_have_their_colours() { VerifyButtonColours(); }
+
+    void type_is_in_the_given_families()
+    {
+        QCOMPARE(Box("TBResultado").font().families().front(), "Arial Narrow");
+        for (const char* name : {"Text1", "TBFrac(0)", "Command1", "CBFicha(0)", "Label1", "Frame1(0)"}) {
+            QCOMPARE(Child<QWidget>(*m_form, name).font().families().front(), "Comic Sans MS");
+        }
+    }
+
     void frames_have_caption_colour_and_their_two_boxes()
     {
         const QStringList captions{"ROJO", "AMARILLO", "VERDE"};
@@ -410,6 +420,10 @@ private slots:
         QCOMPARE(Score(), "Ejercicios: 0. Errores: 0.");
         Verdict({});
         QCOMPARE(Score(), "Ejercicios: 0. Errores: 1.");
+        const QString message = Text("TBResultado");
+        Click("Command2(1)");
+        Click("Command2(2)");
+        QCOMPARE(Text("TBResultado"), message);
         Click("Command2(1)");
         Verdict(Right());
         QCOMPARE(Score(), "Ejercicios: 0. Errores: 1."); // clearing does not let it count again

@@ -35,14 +35,14 @@ class Cantidad(ExerciseLesson):
     reading = r"(\w+) (\w+?)s?  de (\w+(?: y \w+)?)"
 
     def first_stop(self):
-        return locked("Instrucción", "CALCULA")
+        return locked("Instrucciones", "CALCULA")
 
     def result(self, match):
         numerator, part, quantity = match.groups()
         return CARDINALS.index(quantity) * CARDINALS.index(numerator) // PARTS.index(part)
 
     def test_a_lesson(self):
-        match = self.open_exercise("Instrucción", self.reading)
+        match = self.open_exercise("Instrucciones", self.reading)
         text = match.group()
         result = self.result(match)
         self.press("F1", said(" " + text))

@@ -28,13 +28,21 @@ private slots:
     {
         QFETCH(double, value);
         QFETCH(QString, text);
-        QCOMPARE(QString::fromStdString(numeros::EnCifras(value, ",")), text);
+        QCOMPARE(QString::fromStdString(numeros::EnCifras(value, 40, ",")), text);
     }
 
     void the_separator_is_the_callers()
     {
-        QCOMPARE(numeros::EnCifras(1.5, "."), "1.5");
-        QCOMPARE(numeros::EnCifras(1.5, "\u066b"), "1\u066b5");
+        QCOMPARE(numeros::EnCifras(1.5, 5, "."), "1.5");
+        QCOMPARE(numeros::EnCifras(7.0 / 3, 5, "\u066b"), "2\u066b333"); // which is more than one byte
+    }
+
+    void what_does_not_fit_is_cut_off()
+    {
+        QCOMPARE(numeros::EnCifras(7.0 / 3, 5, ","), "2,333");
+        QCOMPARE(numeros::EnCifras(2.0 / 3, 5, ","), "0,666");
+        QCOMPARE(numeros::EnCifras(16383.5, 5, ","), "16383");
+        QCOMPARE(numeros::EnCifras(1638.5, 5, ","), "1638,");
     }
 };
 

@@ -9,6 +9,7 @@
 #include <QLineEdit>
 #include <QPointer>
 #include <QPushButton>
+#include <QTime>
 
 #include <memory>
 
@@ -60,6 +61,36 @@ protected:
     {
         m_form->activateWindow();
         QVERIFY(WaitActive(*m_form));
+    }
+
+    void VerifyButtonColours() const
+    {
+        const auto face = [this](const QString& name) { return Button(name).grab().toImage().pixelColor(5, 5); };
+        QCOMPARE(face("Command1"), QColor(255, 255, 0));
+        QCOMPARE(face("Command2(0)"), QColor(0, 255, 255));
+        QCOMPARE(face("Command2(1)"), QColor(0, 255, 0));
+        QCOMPARE(face("Command2(2)"), QColor(255, 0, 0));
+    }
+
+    // Two screens that take their seed from the time of day draw the same first exercise within one second. The clock
+    // is watched until none passes between.
+    template <class Create, class Read>
+    void VerifySeedOfTheDay(Create create, Read read)
+    {
+        ui::FixSeed({});
+        for (int tries = 0; tries < 20; ++tries) {
+            const int before = QTime::currentTime().second();
+            CloseScreen();
+            OpenScreen(create());
+            const auto first = read();
+            CloseScreen();
+            OpenScreen(create());
+            if (QTime::currentTime().second() == before) {
+                QCOMPARE(read(), first);
+                return;
+            }
+        }
+        QFAIL("no two openings within one second");
     }
 
     // Walks round with Tab from the control in focus; the names met, each once.
