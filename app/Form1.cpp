@@ -6,10 +6,13 @@
 #include "Form2.h"
 #include "FormCantidad.h"
 #include "FormCociente.h"
+#include "FormConversion.h"
 #include "FormDiferencia.h"
 #include "FormFichas.h"
+#include "FormOrdenar.h"
 #include "FormProducto.h"
 #include "FormRepresentacion.h"
+#include "FormSeries.h"
 
 #include <memory>
 
@@ -38,13 +41,13 @@ constexpr std::array<Entrada, 11> entradas{{
     {"&Expresa con fracciones", New<ejercicios::FormFichas>, Modality::Modal},
     {"&Fracción de una cantidad", New<ejercicios::FormCantidad>, Modality::Modal},
     {"D&escomposición en factores primos", nullptr, Modality::Modeless},
-    {"&Ordenar fracciones", nullptr, Modality::Modeless},
-    {"&Conversión al mismo denominador", nullptr, Modality::Modeless},
+    {"&Ordenar fracciones", New<ejercicios::FormOrdenar>, Modality::Modeless},
+    {"&Conversión al mismo denominador", New<ejercicios::FormConversion>, Modality::Modeless},
     {"&Suma de fracciones", New<operaciones::Form2>, Modality::Modeless},
     {"&Diferencia de fracciones", New<operaciones::FormDiferencia>, Modality::Modeless},
     {"&Producto de fracciones", New<operaciones::FormProducto>, Modality::Modal},
     {"&Cociente de fracciones", New<operaciones::FormCociente>, Modality::Modal},
-    {"&Completa la serie", nullptr, Modality::Modeless},
+    {"&Completa la serie", New<ejercicios::FormSeries>, Modality::Modeless},
 }};
 constexpr int salir = entradas.size();
 

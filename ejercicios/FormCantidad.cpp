@@ -123,8 +123,8 @@ bool ConfirmarDivision(Entero16 cantidad, Entero16 denominador, std::string_view
 FormCantidad::FormCantidad()
     : Form({.name = "FormCantidad",
             .caption = "Fracción de una cantidad",
-            .width = 5200,
-            .height = 7700,
+            .width = 5205,
+            .height = 7695,
             .controls = controles,
             .menus = menus})
 {

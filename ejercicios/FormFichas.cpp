@@ -15,7 +15,6 @@ using ui::Alignment;
 using ui::Color;
 using ui::Coloring;
 using ui::KeyResult;
-using ui::Place;
 using ui::Speaking;
 using ui::Typing;
 
@@ -106,7 +105,7 @@ FormFichas::FormFichas()
     : Form({.name = "FormFichas",
             .caption = "Expresa con fracciones",
             .width = 9150,
-            .height = 6250,
+            .height = 6255,
             .controls = controles})
 {
     The<ui::Button>("Command1").OnClick = [this](int) { Command1_Click(); };

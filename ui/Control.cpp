@@ -72,6 +72,7 @@ QFont Control::Font() const
 {
     QFont font(Families(ToQString(m_design.font)));
     font.setPixelSize(std::max(1, static_cast<int>(std::lround(m_design.points * pixelsPerPoint * m_typeScale))));
+    font.setBold(m_design.weight == Weight::Bold);
     return font;
 }
 

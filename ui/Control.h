@@ -28,6 +28,7 @@ public:
     void SetFocus();
     void Enabled(bool enabled);
     void Visible(bool visible);
+    bool IsVisible() const { return m_widget.isVisible(); } // false too as long as the screen is not shown
 
     // Moves the control; in twips, inside what holds it.
     void Move(const Place& place);

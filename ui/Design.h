@@ -26,6 +26,8 @@ enum class Coloring { Plain, Selection };
 
 enum class Alignment { Left, Center };
 
+enum class Weight { Normal, Bold };
+
 struct ControlDesign
 {
     Kind kind = Kind::OneLine;
@@ -43,6 +45,7 @@ struct ControlDesign
     std::optional<Color> color = {}; // the face of a button, the background of a frame
     std::string_view font = "Arial";
     double points = 12;
+    Weight weight = Weight::Normal;
     int coveredTop = 0; // twips that a neighbour in front covers, and in which nothing is painted
     int coveredBottom = 0;
 };

@@ -28,7 +28,13 @@ inline constexpr double pixelsPerPoint = 96.0 / 72.0;
 QRect ToPixels(const Place& place, double scale);
 
 // A colour as the screens write it, 0xBBGGRR.
-enum class Color : std::uint32_t { Red = 0x0000FF, Green = 0x00FF00, Yellow = 0x00FFFF, Cyan = 0xFFFF00 };
+enum class Color : std::uint32_t {
+    Red = 0x0000FF,
+    Green = 0x00FF00,
+    Yellow = 0x00FFFF,
+    Cyan = 0xFFFF00,
+    White = 0xFFFFFF
+};
 QColor ToQColor(Color color);
 
 // Contrast of two colours after WCAG: 1 (none) to 21 (black on white).

@@ -109,7 +109,9 @@ private:
             QCOMPARE(Token(i).isVisible(), shown);
             if (shown) {
                 QVERIFY(Token(i).isEnabled());
-                QVERIFY(StandsAt(Token(i).objectName(), (i % columns) * width, (i / columns) * height, width, height));
+                const int column = i % columns;
+                const int row = i / columns;
+                QVERIFY(StandsAt(Token(i).objectName(), column * width, row * height, width, height));
                 QVERIFY(Token(i).width() >= 24 && Token(i).height() >= 24);
                 area += Token(i).width() * Token(i).height();
             } else if (i < 25) {

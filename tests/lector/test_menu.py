@@ -9,7 +9,7 @@ class Menu(Lesson):
     def test_the_credits_are_heard(self):
         self.session.run(PROGRAM)
         self.session.wait_heard("botón")
-        self.expect(window("KELVORA"), button("Suma de fracciones"))
+        self.expect(window("KELVORA"), button("Representación gráfica"))
         self.press("Alt_L", [CREDITS])
         self.session.press("Return")
         self.session.wait_heard("Aceptar")

@@ -21,6 +21,8 @@ class Quiet(unittest.TestCase):
                               os.environ["KELVORA"])
         session.wait_heard("botón")
         session.heard()
+        session.press(*["Tab"] * 6)
+        session.wait_heard("Suma de fracciones")
         session.press("Return")
         session.wait_heard("=")
         session.heard()

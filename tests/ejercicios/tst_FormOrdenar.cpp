@@ -1,0 +1,295 @@
+#include "Accessible.h"
+#include "FormOrdenar.h"
+#include "Lectura.h"
+#include "Screen.h"
+
+#include <QPlainTextEdit>
+
+#include <algorithm>
+
+using namespace support;
+
+namespace {
+
+constexpr int manyExercises = 10'000;
+
+// Four numerators and four denominators, from left to right.
+struct Row
+{
+    std::array<int, 4> numerators{};
+    std::array<int, 4> denominators{};
+
+    bool operator==(const Row&) const = default;
+
+    bool Increasing() const
+    {
+        for (int i = 1; i < 4; ++i) {
+            if (numerators[i - 1] * denominators[i] >= numerators[i] * denominators[i - 1]) {
+                return false;
+            }
+        }
+        return true;
+    }
+    // The same fractions, whatever their order.
+    Row Sorted() const
+    {
+        std::array<std::pair<int, int>, 4> pairs;
+        for (int i = 0; i < 4; ++i) {
+            pairs[i] = {numerators[i], denominators[i]};
+        }
+        std::ranges::sort(pairs, [](const auto& x, const auto& y) { return x.first * y.second < y.first * x.second; });
+        Row sorted;
+        for (int i = 0; i < 4; ++i) {
+            std::tie(sorted.numerators[i], sorted.denominators[i]) = pairs[i];
+        }
+        return sorted;
+    }
+};
+
+// What the screen is to draw, step by step.
+Row Drawn()
+{
+    const auto draw = [](int count, int from) { return static_cast<int>(count * ui::Rnd()) + from; };
+    const bool sameDenominator = ui::Rnd() < 0.5;
+    const int shared = draw(10, 5);
+    std::array<int, 4> varying{draw(10, 1)};
+    QString list = QString("%1;").arg(varying[0]);
+    for (int i = 1; i < 4; ++i) {
+        do {
+            varying[i] = draw(10, 1);
+        } while (list.contains(QString::number(varying[i])));
+        list += QString("%1;").arg(varying[i]);
+    }
+    Row row;
+    row.numerators.fill(shared);
+    row.denominators.fill(shared);
+    (sameDenominator ? row.numerators : row.denominators) = varying;
+    if (row.Increasing()) {
+        auto& exchanged = sameDenominator ? row.numerators : row.denominators;
+        std::swap(exchanged[0], exchanged[2]);
+    }
+    return row;
+}
+
+} // namespace
+
+class tst_FormOrdenar : public QObject, private Screen
+{
+    Q_OBJECT
+
+private:
+    QPushButton& Fraction(int index) const { return Member<QPushButton>("Command1", index); }
+
+    Row Shown() const
+    {
+        Row row;
+        for (int i = 0; i < 4; ++i) {
+            const QStringList lines = Fraction(i).text().split("\r\n");
+            if (lines.size() == 3 && lines[1] == "-") {
+                row.numerators[i] = lines[0].toInt();
+                row.denominators[i] = lines[2].toInt();
+            }
+        }
+        return row;
+    }
+
+    QStringList Verdict() const
+    {
+        m_ear->Take();
+        Button("CBHecho").click();
+        return m_ear->TakeSaid();
+    }
+
+    static QString Words(int numerator, int denominator)
+    {
+        return QString::fromStdString(
+            lenguaje::FraccionEnLetras(numerator, denominator, numerator == 1, lenguaje::Variante::Base));
+    }
+
+private slots:
+    void init()
+    {
+        ui::FixSeed(7);
+        OpenScreen(new ejercicios::FormOrdenar);
+    }
+    void cleanup() { CloseScreen(); }
+
+    void opens_with_its_texts()
+    {
+        QCOMPARE(m_form->windowTitle(), "Ordenar fracciones");
+        QCOMPARE(m_ear->Take(), QStringList("FOCUS Text1"));
+        QCOMPARE(
+            Child<QPlainTextEdit>(*m_form, "Text1").toPlainText(),
+            "Ordena estas fracciones de menor a mayor\nPulsa sobre una fracción para moverla hacia la izquierda \n");
+        QCOMPARE(Text("TBMensajes"), "");
+        QCOMPARE(Text("TbResultados"), "Ejercicios: 0; Errores: 0");
+        QVERIFY(!Shown().Increasing());
+        QCOMPARE(TabRound(),
+                 QStringList({"Text1", "Command1(0)", "Command1(1)", "Command1(2)", "Command1(3)", "CBHecho",
+                              "Command2(0)", "Command2(1)", "Command2(2)", "TBMensajes", "TbResultados"}));
+        VerifyNames();
+    }
+
+    void fonts_and_colours_are_those_given()
+    {
+        const auto family = [this](const QString& name) {
+            return Child<QWidget>(*m_form, name).font().families().front();
+        };
+        QCOMPARE(family("Text1"), "Arial Narrow");
+        QCOMPARE(family("Command1(0)"), "Courier New");
+        QCOMPARE(family("Command2(0)"), "Arial Narrow");
+        QCOMPARE(family("TBMensajes"), "MS Sans Serif");
+        const auto face = [this](const QString& name) { return Button(name).grab().toImage().pixelColor(5, 5); };
+        QCOMPARE(face("CBHecho"), QColor(255, 255, 0));
+        QCOMPARE(face("Command2(0)"), QColor(0, 255, 255));
+        QCOMPARE(face("Command2(1)"), QColor(0, 255, 0));
+        QCOMPARE(face("Command2(2)"), QColor(255, 0, 0));
+    }
+
+    void draws_both_kinds_and_never_in_order()
+    {
+        ui::FixSeed(99);
+        ui::Randomize(0);
+        std::vector<Row> drawn(manyExercises);
+        std::ranges::generate(drawn, Drawn);
+        ui::Randomize(0);
+        int sameDenominators = 0;
+        int oneBeforeTen = 0;
+        QSet<int> shared;
+        for (const Row& row : drawn) {
+            Continue();
+            QCOMPARE(Shown(), row);
+            QVERIFY(!row.Increasing());
+            const bool same = row.denominators[0] == row.denominators[1];
+            sameDenominators += same ? 1 : 0;
+            shared.insert(same ? row.denominators[0] : row.numerators[0]);
+            const auto& varying = same ? row.numerators : row.denominators;
+            QCOMPARE(QSet<int>(varying.begin(), varying.end()).size(), 4);
+            oneBeforeTen += std::ranges::count(varying, 1) == 1 && std::ranges::count(varying, 10) == 1 ? 1 : 0;
+        }
+        QVERIFY(sameDenominators > 4500 && sameDenominators < 5500);
+        QCOMPARE(shared, (QSet<int>{5, 6, 7, 8, 9, 10, 11, 12, 13, 14}));
+        QVERIFY(oneBeforeTen > 0); // a 10 can still follow a 1
+    }
+
+    void continuing_leads_to_the_first_fraction()
+    {
+        Verdict();
+        const QString message = Text("TBMensajes");
+        m_ear->Take();
+        Press(Qt::Key_C, Qt::AltModifier);
+        QCOMPARE(m_ear->Take(), QStringList({"FOCUS Command2(0)", "FOCUS Command1(0)"}));
+        QCOMPARE(Text("TBMensajes"), message);
+    }
+
+    void a_fraction_says_itself_in_words()
+    {
+        for (int round = 0; round < 50; ++round) {
+            const Row row = Shown();
+            for (int i = 0; i < 4; ++i) {
+                QCOMPARE(Name(QString("Command1(%1)").arg(i)), Words(row.numerators[i], row.denominators[i]));
+            }
+            Continue();
+        }
+    }
+
+    void a_press_moves_a_fraction_to_the_left_and_keeps_the_focus()
+    {
+        for (int index = 1; index < 4; ++index) {
+            Row expected = Shown();
+            std::swap(expected.numerators[index], expected.numerators[index - 1]);
+            std::swap(expected.denominators[index], expected.denominators[index - 1]);
+            Fraction(index).setFocus();
+            m_ear->Take();
+            Press(index == 1 ? Qt::Key_Return : Qt::Key_Space);
+            QCOMPARE(Shown(), expected);
+            QCOMPARE(Focus(), Fraction(index).objectName());
+            const QString standsThere = Words(expected.numerators[index], expected.denominators[index]);
+            QCOMPARE(m_ear->Take(), ui::newNamesAreRead ? QStringList() : QStringList("SAY " + standsThere));
+        }
+    }
+
+    void the_leftmost_fraction_stays()
+    {
+        const Row before = Shown();
+        Fraction(0).setFocus();
+        m_ear->Take();
+        Press(Qt::Key_Space);
+        QCOMPARE(Shown(), before);
+        QCOMPARE(m_ear->Take(), QStringList());
+    }
+
+    void the_verdict_alternates_and_leads_on()
+    {
+        Box("TBMensajes").setFocus();
+        QCOMPARE(Verdict(), QStringList("Resultado incorrecto"));
+        QCOMPARE(Focus(), "Command1(0)");
+        QCOMPARE(Verdict(), QStringList("Resultado incorrecto "));
+        QCOMPARE(Verdict(), QStringList("Resultado incorrecto"));
+        Click("Command2(2)");
+        QCOMPARE(Verdict(), QStringList(" Resultado correcto"));
+        QCOMPARE(Focus(), "Command2(0)");
+        QCOMPARE(Verdict(), QStringList(" Resultado correcto "));
+        QCOMPARE(Verdict(), QStringList(" Resultado correcto"));
+        QCOMPARE(Text("TbResultados"), "Ejercicios: 0; Errores: 0");
+    }
+
+    void the_verdict_is_heard_after_the_focus()
+    {
+        m_ear->Take();
+        Press(Qt::Key_H, Qt::AltModifier);
+        QCOMPARE(m_ear->Take(), QStringList({"FOCUS CBHecho", "FOCUS Command1(0)", "SAY Resultado incorrecto"}));
+    }
+
+    void every_exercise_can_be_put_in_order_by_moving()
+    {
+        for (int round = 0; round < 300; ++round) {
+            Continue();
+            const Row sorted = Shown().Sorted();
+            for (int pass = 0; pass < 4; ++pass) {
+                for (int i = 1; i < 4; ++i) {
+                    const Row row = Shown();
+                    if (row.numerators[i] * row.denominators[i - 1] < row.numerators[i - 1] * row.denominators[i]) {
+                        Fraction(i).click();
+                    }
+                }
+            }
+            QCOMPARE(Shown(), sorted);
+            Button("CBHecho").click();
+            QVERIFY(Text("TBMensajes").startsWith(" Resultado correcto"));
+        }
+    }
+
+    void the_solution_puts_them_in_order_and_moves_nothing_else()
+    {
+        for (int round = 0; round < 300; ++round) {
+            Continue();
+            const Row sorted = Shown().Sorted();
+            Button("Command2(2)").setFocus();
+            m_ear->Take();
+            Press(Qt::Key_Return);
+            QCOMPARE(m_ear->Take(), QStringList());
+            QCOMPARE(Shown(), sorted);
+            QVERIFY(Shown().Increasing());
+            QCOMPARE(Focus(), "Command2(2)");
+        }
+    }
+
+    void clearing_shuffles_until_they_are_out_of_order()
+    {
+        QSet<QString> orders;
+        const Row sorted = Shown().Sorted();
+        for (int i = 0; i < 1000; ++i) {
+            Click("Command2(2)");
+            Button("Command2(1)").click();
+            QVERIFY(!Shown().Increasing());
+            QCOMPARE(Shown().Sorted(), sorted);
+            orders.insert(Fraction(0).text() + Fraction(1).text() + Fraction(2).text() + Fraction(3).text());
+        }
+        QVERIFY(orders.size() > 5);
+        QCOMPARE(Focus(), "Command2(2)");
+    }
+};
+
+KELVORA_TEST_MAIN(tst_FormOrdenar)
+#include "tst_FormOrdenar.moc"

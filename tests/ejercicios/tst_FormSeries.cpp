@@ -1,0 +1,515 @@
+#include "FormSeries.h"
+#include "Screen.h"
+
+#include <algorithm>
+#include <optional>
+
+using namespace support;
+
+namespace {
+
+constexpr int manyExercises = 10'000;
+using Eight = std::array<int, 8>;
+
+// A series as numerators and denominators.
+struct Series
+{
+    Eight numerators{};
+    Eight denominators{};
+};
+
+int Draw(int count, int from)
+{
+    return static_cast<int>(count * ui::Rnd()) + from;
+}
+
+// What the screen is to draw, straight from its rules.
+Eight Arithmetic()
+{
+    int step = Draw(7, 1);
+    step = ui::Rnd() < 0.5 ? -step : step;
+    const int start = step < 0 ? Draw(8, 0) + std::abs(8 * step) : Draw(8, 1);
+    Eight run{};
+    for (int i = 0; i < 8; ++i) {
+        run.at(i) = start + i * step;
+    }
+    return run;
+}
+
+std::optional<Eight> Changing(bool level3)
+{
+    int step = Draw(7, 1);
+    step = ui::Rnd() < 0.5 ? -step : step;
+    int change = Draw(5, 1);
+    change = ui::Rnd() < 0.5 ? -change : change;
+    int term = 0;
+    if (step < 0) {
+        term = Draw(8, 0) + std::abs(8 * step) + std::abs(5 * change);
+    } else {
+        term = Draw(8, 1) + (level3 ? std::abs(4 * change) : 0);
+    }
+    Eight run{};
+    for (int& value : run) {
+        value = term;
+        if (value < 0) {
+            return std::nullopt;
+        }
+        term += step;
+        step += change;
+    }
+    return run;
+}
+
+std::optional<Series> Drawn(int level, int letter)
+{
+    Eight a{};
+    Eight b{};
+    if (level == 1) {
+        a.fill(Draw(15, 1));
+        b = Arithmetic();
+    } else if (level == 2) {
+        a = Arithmetic();
+        b = Arithmetic();
+    } else {
+        const std::optional<Eight> first = level == 3 ? Arithmetic() : Changing(false);
+        if (!first) {
+            return std::nullopt;
+        }
+        const std::optional<Eight> second = Changing(level == 3);
+        if (!second) {
+            return std::nullopt;
+        }
+        a = *first;
+        b = *second;
+    }
+    const int presentation = Draw(2, letter == 1 ? 1 : 3);
+    Series series;
+    for (int i = 0; i < 8; ++i) {
+        const bool upsideDown =
+            presentation == 2 || (presentation == 3 && i % 2 == 1) || (presentation == 4 && i % 2 == 0);
+        series.numerators.at(i) = (upsideDown ? b : a).at(i);
+        series.denominators.at(i) = (upsideDown ? a : b).at(i);
+    }
+    return series;
+}
+
+// What a run of numbers is, told from its terms alone.
+enum class Progression { Constant, Arithmetic, Changing, None };
+
+template <class Terms>
+Progression ProgressionOf(const Terms& terms)
+{
+    QSet<int> steps;
+    QSet<int> changes;
+    for (qsizetype i = 1; i < terms.size(); ++i) {
+        steps.insert(terms[i] - terms[i - 1]);
+        if (i > 1) {
+            changes.insert(terms[i] - 2 * terms[i - 1] + terms[i - 2]);
+        }
+    }
+    if (steps.size() == 1) {
+        return *steps.begin() == 0 ? Progression::Constant : Progression::Arithmetic;
+    }
+    return changes.size() == 1 ? Progression::Changing : Progression::None;
+}
+
+} // namespace
+
+class tst_FormSeries : public QObject, private Screen
+{
+    Q_OBJECT
+
+private:
+    QLineEdit& Numerator(int index) const { return Member<QLineEdit>("Text1", index); }
+    QLineEdit& Denominator(int index) const { return Member<QLineEdit>("Text2", index); }
+
+    // The index of the blank: the last term on view.
+    int Blank() const
+    {
+        int last = -1;
+        while (last < 7 && Numerator(last + 1).isVisible()) {
+            ++last;
+        }
+        return last;
+    }
+
+    QList<int> Numerators() const { return Shown("Text1"); }
+    QList<int> Denominators() const { return Shown("Text2"); }
+    QList<int> Shown(const char* row) const
+    {
+        QList<int> terms;
+        for (int i = 0; i < Blank(); ++i) {
+            terms += Member<QLineEdit>(row, i).text().toInt();
+        }
+        return terms;
+    }
+
+    // The term that the screen itself shows as the solution, taken away again.
+    std::pair<QString, QString> Solution() const
+    {
+        Button("Command2(2)").click();
+        return {Numerator(Blank()).text(), Denominator(Blank()).text()};
+    }
+
+    QStringList Verdict(const QString& numerator, const QString& denominator) const
+    {
+        Numerator(Blank()).setText(numerator);
+        Denominator(Blank()).setText(denominator);
+        m_ear->Take();
+        Button("Command1").click();
+        return m_ear->TakeSaid();
+    }
+
+    // Level and letter of the series on view, told from its terms alone.
+    void VerifyKind(int level, int letter) const
+    {
+        QList<int> above = Numerators();
+        QList<int> below = Denominators();
+        if (letter == 2) { // every second term is upside down
+            for (qsizetype i = 1; i < above.size(); i += 2) {
+                std::swap(above[i], below[i]);
+            }
+        }
+        QList<Progression> seen{ProgressionOf(above), ProgressionOf(below)};
+        std::ranges::sort(seen);
+        const std::array<QList<Progression>, 4> levels{{{Progression::Constant, Progression::Arithmetic},
+                                                        {Progression::Arithmetic, Progression::Arithmetic},
+                                                        {Progression::Arithmetic, Progression::Changing},
+                                                        {Progression::Changing, Progression::Changing}}};
+        QCOMPARE(seen, levels.at(level - 1));
+        for (const int term : above + below) {
+            QVERIFY(term >= 0);
+        }
+    }
+
+private slots:
+    void init()
+    {
+        ui::FixSeed(7);
+        OpenScreen(new ejercicios::FormSeries);
+    }
+    void cleanup() { CloseScreen(); }
+
+    // Opening
+
+    void opens_with_a_series_of_the_first_level()
+    {
+        QCOMPARE(m_form->windowTitle(), "Completa la serie");
+        QCOMPARE(m_ear->Take(), QStringList("FOCUS TbInstruc"));
+        QCOMPARE(Text("TbInstruc"), "Completa la serie");
+        QCOMPARE(Blank(), 4);
+        QCOMPARE(Numerator(4).text() + Denominator(4).text(), "");
+        QCOMPARE(Text("Text3"), "");
+        QCOMPARE(Text("tbResultados"), "Ejercicios:  0; Errores:  0");
+        QVERIFY(Entry("MnuOpcDifLis(0)").isChecked() && Entry("MnuOpcTipLis(0)").isChecked());
+        for (int i = 0; i < 8; ++i) {
+            QCOMPARE(Entry(QString("MnuOpcDifLis(%1)").arg(i)).text(),
+                     QString::number(i / 2 + 1) + (i % 2 == 0 ? "A" : "B"));
+        }
+        QCOMPARE(Entry("MnuOpcDif").text(), "&Dificultad");
+        QCOMPARE(Entry("MnuOpcTip").text(), "&Tipos de serie");
+        QCOMPARE(Entry("MnuOpcTipLis(0)").text(), "&Seleccionado");
+        QCOMPARE(Entry("MnuOpcTipLis(1)").text(), "Seleccionado e &inferiores");
+        QCOMPARE(Entry("MnuOpcSal").text(), "&Salir Alt - F4");
+    }
+
+    void controls_stand_at_the_given_places()
+    {
+        QCOMPARE(m_form->centralWidget()->width(), 800); // 12000 twips
+        QVERIFY(StandsAt("TbInstruc", 3500, 200, 5000, 465));
+        for (int i = 0; i < 8; ++i) {
+            const double left = 600 + i * (1000 + 4000.0 / 9);
+            QVERIFY(StandsAt(QString("Text1(%1)").arg(i), left, 1000, 1000, 600));
+            QVERIFY(StandsAt(QString("Line1(%1)").arg(i), left, 1635, 1000, 30));
+            QVERIFY(StandsAt(QString("Text2(%1)").arg(i), left, 1700, 1000, 600));
+        }
+        QVERIFY(StandsAt("Command1", 5250, 2800, 1500, 495));
+        QVERIFY(StandsAt("Text3", 4500, 3450, 3000, 500));
+        QVERIFY(StandsAt("Command2(0)", 5250, 4100, 1500, 500));
+        QVERIFY(StandsAt("Command2(1)", 3600, 4100, 1500, 500));
+        QVERIFY(StandsAt("Command2(2)", 6900, 4100, 1500, 500));
+        QVERIFY(StandsAt("tbResultados", 0, 5300, 3000, 495));
+        QCOMPARE(Box("Text3").palette().color(QPalette::Base), QApplication::palette().color(QPalette::Highlight));
+    }
+
+    void type_is_as_given()
+    {
+        const QFont instruction = Box("TbInstruc").font();
+        QCOMPARE(instruction.families().front(), "Verdana");
+        QCOMPARE(instruction.pixelSize(), 19); // 14.25 points
+        QVERIFY(instruction.bold());
+        QVERIFY(Numerator(0).font().bold() && Denominator(0).font().bold());
+        QCOMPARE(Numerator(0).font().families().front(), "Arial");
+        QVERIFY(!Box("Text3").font().bold());
+    }
+
+    void tab_reads_term_by_term_and_not_what_is_hidden()
+    {
+        QStringList order{"TbInstruc"};
+        for (int i = 0; i <= 4; ++i) {
+            order += {QString("Text1(%1)").arg(i), QString("Text2(%1)").arg(i)};
+        }
+        order += {"Command1", "Text3", "Command2(0)", "Command2(1)", "Command2(2)", "tbResultados"};
+        QCOMPARE(TabRound(), order);
+        VerifyNames();
+        QCOMPARE(Name("Text1(2)"), "Numerador del término 3");
+        QCOMPARE(Name("Text2(7)"), "Denominador del término 8");
+    }
+
+    void buttons_have_their_colours() { VerifyButtonColours(); }
+
+    void the_seed_is_the_time_of_day()
+    {
+        VerifySeedOfTheDay([] { return new ejercicios::FormSeries; },
+                           [this] { return std::pair(Numerators(), Denominators()); });
+    }
+
+    // Generation
+
+    void draws_by_the_rules_of_each_level_data()
+    {
+        QTest::addColumn<int>("index");
+        QTest::addColumn<bool>("only");
+        for (int index = 0; index < 8; ++index) {
+            QTest::addRow("%d%c", index / 2 + 1, index % 2 == 0 ? 'A' : 'B') << index << true;
+            QTest::addRow("%d%c and easier", index / 2 + 1, index % 2 == 0 ? 'A' : 'B') << index << false;
+        }
+    }
+    void draws_by_the_rules_of_each_level()
+    {
+        QFETCH(int, index);
+        QFETCH(bool, only);
+        const int chosen = index / 2 + 1;
+        const int letter = index % 2 + 1;
+        Choose(QString("MnuOpcDifLis(%1)").arg(index));
+        Choose(only ? "MnuOpcTipLis(0)" : "MnuOpcTipLis(1)");
+        while (Blank() != chosen + 3) {
+            Continue(); // the first series of this level may be abandoned
+        }
+        ui::FixSeed(99);
+        ui::Randomize(0);
+        std::vector<std::optional<Series>> drawn(only ? manyExercises : manyExercises / 5);
+        QSet<std::pair<int, int>> kinds;
+        for (std::optional<Series>& series : drawn) {
+            const int level = only ? chosen : Draw(chosen, 1);
+            const int sublevel = only ? letter : (level < chosen || letter == 2 ? Draw(2, 1) : 1);
+            kinds.insert({level, sublevel});
+            series = Drawn(level, sublevel);
+        }
+        QCOMPARE(kinds.size(), only ? 1 : 2 * (chosen - 1) + letter);
+        ui::Randomize(0);
+        std::optional<Series> onView;
+        int abandoned = 0;
+        for (const std::optional<Series>& series : drawn) {
+            Continue();
+            abandoned += series ? 0 : 1;
+            onView = series ? series : onView;
+            if (!onView) {
+                continue; // still the series from before
+            }
+            QCOMPARE(Blank(), chosen + 3);
+            for (int i = 0; i < Blank(); ++i) {
+                QCOMPARE(Numerator(i).text(), QString::number(onView->numerators.at(i)));
+                QCOMPARE(Denominator(i).text(), QString::number(onView->denominators.at(i)));
+            }
+            if (only) {
+                VerifyKind(chosen, letter);
+            }
+            if (QTest::currentTestFailed()) {
+                return;
+            }
+        }
+        QVERIFY(chosen <= 2 ? abandoned == 0 : abandoned > 0);
+    }
+
+    void an_abandoned_series_leaves_the_one_on_view()
+    {
+        Choose("MnuOpcDifLis(6)"); // 4A
+        int kept = 0;
+        int renewed = 0;
+        for (int i = 0; i < 1000 && Blank() != 7; ++i) {
+            Continue();
+        }
+        for (int i = 0; i < 1000; ++i) {
+            const auto before = std::pair(Numerators(), Denominators());
+            Numerator(7).setText("5");
+            Continue();
+            const bool same = before == std::pair(Numerators(), Denominators());
+            (same ? kept : renewed) += 1;
+            QCOMPARE(Numerator(7).text(), same ? "5" : ""); // the answer stays with its series
+        }
+        QVERIFY(kept > 100 && renewed > 100);
+    }
+
+    // Options
+
+    void a_level_waits_for_the_next_series_and_leads_to_the_blank()
+    {
+        const auto before = std::pair(Numerators(), Denominators());
+        m_ear->Take();
+        Choose("MnuOpcDifLis(2)");
+        QCOMPARE(m_ear->Take(), QStringList("FOCUS Text1(4)"));
+        QCOMPARE(std::pair(Numerators(), Denominators()), before);
+        for (int i = 0; i < 8; ++i) {
+            QCOMPARE(Entry(QString("MnuOpcDifLis(%1)").arg(i)).isChecked(), i == 2);
+        }
+        Continue();
+        QCOMPARE(Blank(), 5);
+        QCOMPARE(Focus(), "Text1(5)");
+        Choose("MnuOpcDifLis(0)");
+        Continue();
+        QCOMPARE(Blank(), 4);
+        QVERIFY(!Denominator(5).isVisible() && !Member<QWidget>("Line1", 5).isVisible());
+    }
+
+    void a_type_brings_a_new_series_at_once()
+    {
+        for (const int type : {1, 0}) {
+            QSet<QString> seen;
+            for (int i = 0; i < 20; ++i) {
+                Choose(QString("MnuOpcTipLis(%1)").arg(type));
+                seen.insert(Numerator(0).text() + "/" + Denominator(0).text() + " " + Denominator(1).text());
+                QCOMPARE(Focus(), "Text1(4)");
+                QVERIFY(Entry(QString("MnuOpcTipLis(%1)").arg(type)).isChecked());
+                QVERIFY(!Entry(QString("MnuOpcTipLis(%1)").arg(1 - type)).isChecked());
+            }
+            QVERIFY(seen.size() > 5);
+        }
+    }
+
+    // Checking
+
+    void every_right_check_counts_an_exercise_and_every_wrong_one_an_error()
+    {
+        const auto [numerator, denominator] = Solution();
+        Choose("MnuOpcDifLis(0)"); // the solution counts as not seen again
+        QCOMPARE(Verdict(numerator, denominator), QStringList("Respuesta correcta"));
+        QCOMPARE(Focus(), "Command2(0)");
+        QCOMPARE(Text("tbResultados"), "Ejercicios:   1; Errores:  0.");
+        QCOMPARE(Verdict(numerator, denominator), QStringList("Respuesta correcta")); // no blank, and heard again
+        QCOMPARE(Text("tbResultados"), "Ejercicios:   2; Errores:  0.");
+        for (int i = 0; i < 3; ++i) {
+            QCOMPARE(Verdict("", ""), QStringList("Respuesta incorrecta"));
+        }
+        QCOMPARE(Text("tbResultados"), "Ejercicios:   2; Errores:  3.");
+    }
+
+    void the_score_line_has_its_lopsided_padding()
+    {
+        for (int i = 0; i < 12; ++i) {
+            Verdict("", "");
+        }
+        QCOMPARE(Text("tbResultados"), "Ejercicios:   0; Errores:   12.");
+        const auto [numerator, denominator] = Solution();
+        Choose("MnuOpcDifLis(0)");
+        for (int i = 0; i < 10; ++i) {
+            Verdict(numerator, denominator);
+        }
+        QCOMPARE(Text("tbResultados"), "Ejercicios:  10; Errores:   12.");
+    }
+
+    void the_term_itself_is_asked_for()
+    {
+        const auto [numerator, denominator] = Solution();
+        const QString twice = QString::number(2 * numerator.toInt());
+        QCOMPARE(Verdict(twice, QString::number(2 * denominator.toInt())), QStringList("Respuesta incorrecta"));
+        QCOMPARE(Verdict(numerator, "0"), QStringList("Respuesta incorrecta"));
+        QCOMPARE(Verdict("999", denominator), QStringList("Respuesta incorrecta"));
+        QCOMPARE(Verdict(" " + numerator + ".0", denominator + " o así"), QStringList("Respuesta correcta"));
+    }
+
+    void a_wrong_answer_leaves_the_focus()
+    {
+        Denominator(4).setFocus();
+        Verdict("7", "8");
+        QCOMPARE(Focus(), "Text2(4)");
+        QCOMPARE(Numerator(4).text(), "7");
+    }
+
+    void after_the_solution_a_right_check_does_not_count()
+    {
+        const auto [numerator, denominator] = Solution();
+        QCOMPARE(Focus(), "Text1(4)");
+        QCOMPARE(Verdict(numerator, denominator), QStringList("Respuesta correcta"));
+        QCOMPARE(Text("tbResultados"), "Ejercicios:   0; Errores:  0.");
+        Verdict("", "");
+        QCOMPARE(Text("tbResultados"), "Ejercicios:   0; Errores:  1.");
+        Click("Command2(1)");
+        Verdict(numerator, denominator);
+        QCOMPARE(Text("tbResultados"), "Ejercicios:   0; Errores:  1."); // clearing does not change that
+    }
+
+    // Keys and protected terms
+
+    void every_key_empties_the_message_and_enter_checks()
+    {
+        for (QLineEdit* box : {&Numerator(0), &Denominator(2), &Numerator(4), &Denominator(4)}) {
+            for (const Qt::Key key : {Qt::Key_5, Qt::Key_X, Qt::Key_Backspace, Qt::Key_Escape}) {
+                Verdict("", "");
+                box->setFocus();
+                Press(key);
+                QCOMPARE(Text("Text3"), "");
+            }
+            box->setFocus();
+            Numerator(4).clear();
+            Press(Qt::Key_Return);
+            QCOMPARE(Text("Text3"), "Respuesta incorrecta");
+            Press(Qt::Key_Left);
+            QCOMPARE(Text("Text3"), "Respuesta incorrecta"); // no character
+        }
+    }
+
+    void the_terms_shown_cannot_be_edited_and_say_so()
+    {
+        const auto before = std::pair(Numerators(), Denominators());
+        for (int i = 0; i < 4; ++i) {
+            for (QLineEdit* box : {&Numerator(i), &Denominator(i)}) {
+                const QString value = box->text();
+                box->setFocus();
+                m_ear->Take();
+                Type("7");
+                QCOMPARE(m_ear->TakeSaid(), QStringList(value));
+                Press(Qt::Key_Delete);
+                Press(Qt::Key_A, Qt::ControlModifier);
+                Press(Qt::Key_Backspace);
+                QCOMPARE(box->text(), value);
+                QVERIFY(!box->isReadOnly());
+            }
+        }
+        QCOMPARE(std::pair(Numerators(), Denominators()), before);
+        Numerator(4).setFocus();
+        Type("7x");
+        QCOMPARE(Numerator(4).text(), "7x");
+    }
+
+    // The buttons
+
+    void the_buttons_lead_to_the_blank()
+    {
+        Verdict("1", "2");
+        m_ear->Take();
+        Press(Qt::Key_B, Qt::AltModifier);
+        QCOMPARE(m_ear->Take(), QStringList({"FOCUS Command2(1)", "FOCUS Text1(4)"}));
+        QCOMPARE(Numerator(4).text() + Denominator(4).text(), "");
+        QCOMPARE(Text("Text3"), "Respuesta incorrecta");
+        Press(Qt::Key_V, Qt::AltModifier);
+        QCOMPARE(m_ear->Take(), QStringList({"FOCUS Command2(2)", "FOCUS Text1(4)"}));
+        QCOMPARE(Text("Text3"), "");
+        Verdict("1", "2");
+        Press(Qt::Key_C, Qt::AltModifier);
+        m_ear->Take();
+        QCOMPARE(Text("Text3"), "");
+        QCOMPARE(Numerator(4).text() + Denominator(4).text(), "");
+        QCOMPARE(Focus(), "Text1(4)");
+    }
+
+    void leaving_closes_the_screen()
+    {
+        Choose("MnuOpcSal");
+        Settle();
+        QVERIFY(!m_form);
+    }
+};
+
+KELVORA_TEST_MAIN(tst_FormSeries)
+#include "tst_FormSeries.moc"
