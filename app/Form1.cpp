@@ -8,6 +8,7 @@
 #include "FormCociente.h"
 #include "FormConversion.h"
 #include "FormDiferencia.h"
+#include "FormFactores.h"
 #include "FormFichas.h"
 #include "FormOrdenar.h"
 #include "FormProducto.h"
@@ -31,7 +32,7 @@ ui::Form* New()
 struct Entrada
 {
     std::string_view caption;
-    ui::Form* (*open)(); // null while the screen does not exist
+    ui::Form* (*open)();
     Modality modality;
 };
 
@@ -40,7 +41,7 @@ constexpr std::array<Entrada, 11> entradas{{
     {"Representación &gráfica", New<ejercicios::FormRepresentacion>, Modality::Modal},
     {"&Expresa con fracciones", New<ejercicios::FormFichas>, Modality::Modal},
     {"&Fracción de una cantidad", New<ejercicios::FormCantidad>, Modality::Modal},
-    {"D&escomposición en factores primos", nullptr, Modality::Modeless},
+    {"D&escomposición en factores primos", New<ejercicios::FormFactores>, Modality::Modeless},
     {"&Ordenar fracciones", New<ejercicios::FormOrdenar>, Modality::Modeless},
     {"&Conversión al mismo denominador", New<ejercicios::FormConversion>, Modality::Modeless},
     {"&Suma de fracciones", New<operaciones::Form2>, Modality::Modeless},
@@ -82,13 +83,6 @@ Form1::Form1()
         button.OnClick = [this](int Index) { Command1_Click(Index); };
     }
     The<ui::MenuItem>("MnuAce").OnClick = [this](int) { MnuAce_Click(); };
-}
-
-void Form1::Form_Load()
-{
-    for (int i = 0; i < salir; ++i) {
-        Command1[i].Enabled(entradas[i].open != nullptr);
-    }
 }
 
 // Two columns, read downwards; everything in whole units of the window's size.

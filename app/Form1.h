@@ -16,7 +16,6 @@ public:
     Form1();
 
 private:
-    void Form_Load() override;
     void Form_Resize() override;
     void Command1_Click(int Index);
     void MnuAce_Click();

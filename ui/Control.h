@@ -47,6 +47,10 @@ public:
     virtual KeyResult KeyDown(int keyCode, int shift);
     virtual KeyResult KeyPressed(int keyAscii);
 
+    // The focus has come, by whatever way but a change of windows, or is leaving for another control.
+    virtual void GotFocus() {}
+    virtual void Validate() {}
+
 protected:
     // Gives the widget its place and its type at the present scale.
     virtual void PutInPlace();

@@ -15,8 +15,9 @@ inline constexpr int noTab = -1;
 // A picture box holds other controls and has no focus of its own.
 enum class Kind { OneLine, MultiLine, Button, Label, Frame, Picture, Line };
 
-// A locked box takes focus and caret, but no typing.
-enum class Typing { Editable, Locked };
+// A locked box takes focus and caret, but no typing. A box for keys only is changed by what its key handlers do and by
+// nothing else: paste, cut, drop and the like are undone with a beep.
+enum class Typing { Editable, Locked, KeysOnly };
 
 // Whatever the program writes to a spoken box or label is announced.
 enum class Speaking { Silent, Spoken };

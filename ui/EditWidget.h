@@ -28,6 +28,9 @@ public:
     // Does not call `edited`. The caret goes to the start.
     virtual void SetExactText(const QString& text) = 0;
 
+    // Replaces what is different in `text`, and puts the caret after `caret` of its characters. Does not call `edited`.
+    virtual void Edit(const QString& text, int caret) = 0;
+
     // Start and length of the selection (the caret where nothing is selected), in characters of the exact text.
     virtual int SelStart() const = 0;
     virtual int SelLength() const = 0;

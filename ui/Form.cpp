@@ -1,5 +1,6 @@
 #include "Form.h"
 
+#include "Silence.h"
 #include "Strings.h"
 
 #include <QApplication>
@@ -31,6 +32,16 @@ std::unique_ptr<Control> Create(const ControlDesign& design, QWidget* parent)
         return std::make_unique<Line>(design, parent);
     }
     return nullptr;
+}
+
+// Whether the focus comes or goes inside the window, and not with the window or for a menu.
+bool IsFocusMove(const QEvent& event)
+{
+    if (event.type() != QEvent::FocusIn && event.type() != QEvent::FocusOut) {
+        return false;
+    }
+    const Qt::FocusReason reason = static_cast<const QFocusEvent&>(event).reason();
+    return reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason && reason != Qt::MenuBarFocusReason;
 }
 
 } // namespace
@@ -114,6 +125,13 @@ bool Form::eventFilter(QObject* watched, QEvent* event)
     }
     // A key that a box in a frame leaves alone comes to the frame too, and is none of the frame's.
     Control* control = watched == focusWidget() ? ControlOf(watched) : nullptr;
+    if (Control* other = ControlOf(watched); other != nullptr && IsFocusMove(*event)) {
+        if (event->type() == QEvent::FocusIn) {
+            Silently([other] { other->GotFocus(); }); // the reader learns of the focus first
+        } else {
+            other->Validate();
+        }
+    }
     KeyResult result = KeyResult::Pass;
     if (control != nullptr && event->type() == QEvent::KeyPress) {
         result = KeyPressed(*control, *static_cast<QKeyEvent*>(event));

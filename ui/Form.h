@@ -34,7 +34,7 @@ public:
 protected:
     explicit Form(const FormDesign& design);
 
-    virtual void Form_Load() = 0;
+    virtual void Form_Load() {}
     virtual KeyResult Form_KeyDown(int KeyCode, int Shift);
 
     // Places the controls of a screen that does so itself; runs before the screen is seen and whenever its size

@@ -59,6 +59,13 @@ QStringList Families(const QString& family)
     QStringList families{family};
     if (family == "Comic Sans MS") {
         families += "Comic Neue";
+    } else if (family == "Courier New") {
+        families << "Liberation Mono"
+                 << "DejaVu Sans Mono";
+    } else if (family == "Arial Narrow") {
+        families += "Liberation Sans Narrow";
+    } else if (family == "Verdana") {
+        families += "DejaVu Sans";
     }
     return families << "Liberation Sans"
                     << "DejaVu Sans";

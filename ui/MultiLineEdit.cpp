@@ -1,5 +1,6 @@
 #include "MultiLineEdit.h"
 
+#include <QApplication>
 #include <QFocusEvent>
 #include <QPainter>
 #include <QTextBlock>
@@ -30,8 +31,9 @@ QString FromDocument(QString text)
 } // namespace
 
 MultiLineEdit::MultiLineEdit(const ControlDesign& design, QWidget* parent)
-    : QPlainTextEdit(parent), m_coloring(design.coloring)
+    : QPlainTextEdit(parent), m_coloring(design.coloring), m_keysOnly(design.typing == Typing::KeysOnly)
 {
+    setUndoRedoEnabled(!m_keysOnly);
     setFrameShape(QFrame::NoFrame);                     // the edge is painted here, as that of the boxes of one line
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff); // the caret leads to what does not fit
     setReadOnly(design.typing == Typing::Locked);
@@ -39,7 +41,12 @@ MultiLineEdit::MultiLineEdit(const ControlDesign& design, QWidget* parent)
     setTabChangesFocus(true);
     TakeColors();
     connect(this, &QPlainTextEdit::textChanged, this, [this] {
-        if (edited && !m_writing) {
+        if (m_writing) {
+            return;
+        }
+        if (m_keysOnly) {
+            Guard();
+        } else if (edited) {
             edited();
         }
     });
@@ -55,6 +62,39 @@ void MultiLineEdit::SetExactText(const QString& text)
     m_writing = true;
     setPlainText(ToDocument(text));
     m_writing = false;
+    m_kept = text;
+}
+
+// Between the two texts' common beginning and end, so that the reader hears of that alone.
+void MultiLineEdit::Edit(const QString& text, int caret)
+{
+    const QString before = document()->toRawText();
+    const QString after = ToDocument(text);
+    const qsizetype shorter = std::min(before.size(), after.size());
+    qsizetype begin = 0;
+    while (begin < shorter && before[begin] == after[begin]) {
+        ++begin;
+    }
+    qsizetype end = 0;
+    while (end < shorter - begin && before[before.size() - 1 - end] == after[after.size() - 1 - end]) {
+        ++end;
+    }
+    m_writing = true;
+    QTextCursor cursor(document());
+    cursor.setPosition(static_cast<int>(begin));
+    cursor.setPosition(static_cast<int>(before.size() - end), QTextCursor::KeepAnchor);
+    cursor.insertText(after.mid(begin, after.size() - begin - end));
+    m_writing = false;
+    m_kept = text;
+    Select(caret, 0);
+}
+
+// Whatever has changed the text was none of its handlers.
+void MultiLineEdit::Guard()
+{
+    const int caret = std::min(SelStart(), static_cast<int>(m_kept.size()));
+    QApplication::beep();
+    Edit(m_kept, caret);
 }
 
 int MultiLineEdit::SelStart() const

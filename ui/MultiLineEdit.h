@@ -18,6 +18,7 @@ public:
 
     QString ExactText() const override;
     void SetExactText(const QString& text) override;
+    void Edit(const QString& text, int caret) override;
     int SelStart() const override;
     int SelLength() const override;
     void Select(int start, int length) override;
@@ -29,7 +30,11 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    void Guard();
+
     const Coloring m_coloring;
+    const bool m_keysOnly;
+    QString m_kept; // of a box for keys only: the text that its handlers have left
     bool m_writing = false;
 };
 

@@ -39,6 +39,12 @@ void OneLineEdit::SetExactText(const QString& text)
     setCursorPosition(0);
 }
 
+void OneLineEdit::Edit(const QString& text, int caret)
+{
+    SetExactText(text);
+    setCursorPosition(caret);
+}
+
 void OneLineEdit::Select(int start, int length)
 {
     if (length == 0) {

@@ -18,6 +18,7 @@ public:
 
     QString ExactText() const override { return text(); }
     void SetExactText(const QString& text) override;
+    void Edit(const QString& text, int caret) override;
     int SelStart() const override { return hasSelectedText() ? selectionStart() : cursorPosition(); }
     int SelLength() const override { return static_cast<int>(selectedText().size()); }
     void Select(int start, int length) override;

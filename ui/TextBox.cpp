@@ -95,6 +95,31 @@ void TextBox::Say() const
     Announcer::Instance().Say(Widget(), m_edit.ExactText());
 }
 
+std::u16string TextBox::Units() const
+{
+    return m_edit.ExactText().toStdU16String();
+}
+
+void TextBox::Edit(std::u16string_view text, int caret)
+{
+    const QString value(reinterpret_cast<const QChar*>(text.data()), static_cast<qsizetype>(text.size()));
+    Alter([&] { m_edit.Edit(value, caret); });
+}
+
+void TextBox::GotFocus()
+{
+    if (OnGotFocus) {
+        OnGotFocus(Index());
+    }
+}
+
+void TextBox::Validate()
+{
+    if (OnValidate) {
+        OnValidate(Index());
+    }
+}
+
 void TextBox::TakeColors()
 {
     m_edit.TakeColors();

@@ -35,7 +35,14 @@ public:
     // Announces the text, of a box that is not spoken whenever the program writes to it.
     void Say() const;
 
+    // The text in UTF-16, of which SelStart and SelLength count the units; and another one, with the caret after
+    // `caret` of its units, as if the pupil had typed what is different. Does not run Change.
+    std::u16string Units() const;
+    void Edit(std::u16string_view text, int caret);
+
     void TakeColors() override;
+    void GotFocus() override;
+    void Validate() override;
     KeyResult KeyDown(int keyCode, int shift) override;
     KeyResult KeyPressed(int keyAscii) override;
 
@@ -43,6 +50,8 @@ public:
     std::function<KeyResult(int Index, int KeyCode, int Shift)> OnKeyDown;
     std::function<KeyResult(int Index, int KeyAscii)> OnKeyPress;
     std::function<void(int Index)> OnChange;
+    std::function<void(int Index)> OnGotFocus;
+    std::function<void(int Index)> OnValidate;
 
 protected:
     void PutInPlace() override;

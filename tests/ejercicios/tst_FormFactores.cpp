@@ -1,0 +1,469 @@
+#include "Escalera.h"
+#include "FormFactores.h"
+#include "Screen.h"
+
+#include <QClipboard>
+#include <QInputDialog>
+#include <QLabel>
+#include <QMessageBox>
+#include <QMimeData>
+#include <QPlainTextEdit>
+#include <QTextBlock>
+
+using namespace support;
+
+namespace {
+
+constexpr int manyExercises = 10'000;
+const QString emptyRow = "     |    ";
+
+DialogAnswer Message(const QString& text)
+{
+    return [text](QWidget& dialog) {
+        const auto& box = dynamic_cast<QMessageBox&>(dialog);
+        QCOMPARE(box.text(), text);
+        QCOMPARE(box.windowTitle(), "Kelvora");
+        QCOMPARE(box.buttons().size(), 1);
+        QTest::keyClick(&dialog, Qt::Key_Return);
+    };
+}
+
+QString WrongProduct(int product, int value)
+{
+    return QString("El producto de los factores calculados (%1 es distinto del valor inicial (%2)")
+        .arg(product)
+        .arg(value);
+}
+
+QString WrongFactors(const QString& own, const QString& right)
+{
+    return "Los factores primos obtenidos por usted son diferentes a los que corresponden a la cantidad utilizada.\r\n"
+           "Valores calculados : " +
+           own + "\r\nValores correctos: " + right;
+}
+
+} // namespace
+
+class tst_FormFactores : public QObject, private Screen
+{
+    Q_OBJECT
+
+private:
+    QPlainTextEdit& Ladder() const { return Child<QPlainTextEdit>(*m_form, "TbDesco"); }
+    QStringList Rows() const { return Ladder().toPlainText().split('\n'); }
+    void SetValue(const QString& value) const { Box("TbValor").setText(value); }
+
+    // Types divisors into the column behind the bar, from the first row of a fresh ladder on.
+    void TypeDivisors(const QStringList& divisors) const
+    {
+        Button("Command2(1)").click();
+        for (qsizetype row = 0; row < divisors.size(); ++row) {
+            QTextCursor cursor(Ladder().document()->findBlockByNumber(static_cast<int>(row)));
+            cursor.movePosition(QTextCursor::Right, QTextCursor::MoveAnchor, 6);
+            Ladder().setFocus();
+            Ladder().setTextCursor(cursor);
+            Type(divisors[row]);
+        }
+    }
+
+    // Checks a value against divisors; the box that answers must hold `message`, none must open where it is empty.
+    QStringList Verdict(const QString& value, const QStringList& divisors, const QString& message = {}) const
+    {
+        SetValue(value);
+        TypeDivisors(divisors);
+        m_ear->Take();
+        const auto check = [this] { Button("Command1").click(); };
+        if (message.isEmpty()) {
+            check();
+        } else {
+            WithDialog(check, Message(message));
+            Activate();
+        }
+        return m_ear->TakeSaid();
+    }
+
+private slots:
+    void init()
+    {
+        ui::FixSeed(7);
+        OpenScreen(new ejercicios::FormFactores);
+    }
+    void cleanup() { CloseScreen(); }
+
+    // Opening
+
+    void opens_with_an_empty_ladder_and_a_value()
+    {
+        QCOMPARE(m_form->windowTitle(), "DESCOMPOSICIÓN EN FACTORES PRIMOS");
+        QCOMPARE(Focus(), "TbInstruc");
+        QCOMPARE(Text("TbInstruc"), "Realiza la descomposición en factores primos");
+        QCOMPARE(Rows(), QStringList(15, emptyRow) + QStringList(""));
+        QVERIFY(Text("TbValor").toInt() >= 1 && Text("TbValor").toInt() <= 100);
+        QCOMPARE(Text("TbFactores") + Text("Text1"), "");
+        QCOMPARE(Text("tbResultados"), "Ejercicios:  0; Errores:  0");
+        QCOMPARE(Child<QLabel>(*m_form, "LbFactores").text(), "Factores primos");
+        const QStringList captions{
+            "&Opciones",      "&Valores", "&Hasta 10", "&Hasta 20", "&Hasta 100", "&Hasta 1000", "&Introducir valor...",
+            "&Salir (Alt F4)"};
+        const QStringList names{"MnuOpc",          "MnuOpcVal",       "MnuOpcValLis(0)", "MnuOpcValLis(1)",
+                                "MnuOpcValLis(2)", "MnuOpcValLis(3)", "MnuOpcInt",       "MnuOpcsal"};
+        for (qsizetype i = 0; i < names.size(); ++i) {
+            QCOMPARE(Entry(names[i]).text(), captions[i]);
+        }
+        QVERIFY(Entry("MnuOpcValLis(2)").isChecked());
+        QCOMPARE(Entry("MnuOpcInt").shortcut().toString(), "F2");
+    }
+
+    void controls_stand_at_the_given_places()
+    {
+        QVERIFY(StandsAt("TbInstruc", 966, 300, 6000, 500));
+        QVERIFY(StandsAt("TbValor", 933, 1300, 2125, 500));
+        QVERIFY(StandsAt("TbDesco", 933, 2100, 2125, 4000));
+        QVERIFY(StandsAt("LbFactores", 933, 6600, 2125, 500));
+        QVERIFY(StandsAt("TbFactores", 933, 7100, 2125, 500));
+        QVERIFY(StandsAt("Command1", 4750, 1100, 1500, 400));
+        QVERIFY(StandsAt("Text1", 4000, 1900, 3000, 500));
+        QVERIFY(StandsAt("Command2(0)", 4750, 2700, 1300, 500));
+        QVERIFY(StandsAt("Command2(1)", 4000, 3500, 1300, 500));
+        QVERIFY(StandsAt("Command2(2)", 5500, 3500, 1500, 500));
+        QVERIFY(StandsAt("tbResultados", 4000, 7150, 3000, 480));
+        VerifyButtonColours();
+    }
+
+    void tab_goes_round_in_the_given_order()
+    {
+        QCOMPARE(TabRound(), QStringList({"TbInstruc", "TbValor", "TbDesco", "TbFactores", "Command1", "Text1",
+                                          "Command2(0)", "Command2(1)", "Command2(2)", "tbResultados"}));
+        VerifyNames();
+    }
+
+    void the_bars_stand_in_a_line()
+    {
+        const QFontMetrics metrics(Ladder().font());
+        QCOMPARE(metrics.horizontalAdvance("1"), metrics.horizontalAdvance("|"));
+        QCOMPARE(metrics.horizontalAdvance("1"), metrics.horizontalAdvance(" "));
+        QVERIFY(15 * metrics.height() < Ladder().height());
+    }
+
+    // Values
+
+    void draws_values_in_the_chosen_range_data()
+    {
+        QTest::addColumn<int>("option");
+        QTest::addColumn<int>("limit");
+        QTest::addRow("10") << 0 << 10;
+        QTest::addRow("20") << 1 << 20;
+        QTest::addRow("100") << 2 << 100;
+        QTest::addRow("1000") << 3 << 1000;
+    }
+    void draws_values_in_the_chosen_range()
+    {
+        QFETCH(int, option);
+        QFETCH(int, limit);
+        const QString before = Text("TbValor");
+        Choose(QString("MnuOpcValLis(%1)").arg(option));
+        QCOMPARE(Text("TbValor"), before); // until Continuar
+        ui::FixSeed(99);
+        ui::Randomize(0);
+        std::vector<int> drawn(manyExercises);
+        for (int& value : drawn) {
+            value = static_cast<int>(limit * ui::Rnd()) + 1;
+        }
+        ui::Randomize(0);
+        QSet<int> seen;
+        for (const int value : drawn) {
+            Continue();
+            QCOMPARE(Text("TbValor"), QString::number(value));
+            seen.insert(value);
+        }
+        QVERIFY(seen.contains(1) && seen.contains(limit));
+    }
+
+    void an_own_value_is_taken_up_to_a_thousand_data()
+    {
+        QTest::addColumn<QString>("answer");
+        QTest::addColumn<QString>("value");
+        QTest::addRow("plain") << "360"
+                               << "360";
+        QTest::addRow("negative") << "-12"
+                                  << "12";
+        QTest::addRow("half to even") << "2.5"
+                                      << "2";
+        QTest::addRow("the largest") << "1000"
+                                     << "1000";
+        QTest::addRow("too large") << "1000.1"
+                                   << "77";
+        QTest::addRow("beyond measure") << QString(400, '9') << "77";
+        QTest::addRow("zero") << "0"
+                              << "77";
+        QTest::addRow("no number") << "doce"
+                                   << "77";
+        QTest::addRow("empty") << ""
+                               << "77";
+    }
+    void an_own_value_is_taken_up_to_a_thousand()
+    {
+        QFETCH(QString, answer);
+        QFETCH(QString, value);
+        SetValue("77");
+        TypeDivisors({"7"});
+        const QStringList rows = Rows();
+        WithDialog([] { Press(Qt::Key_F2); },
+                   [answer](QWidget& dialog) {
+                       auto& box = dynamic_cast<QInputDialog&>(dialog);
+                       QCOMPARE(box.windowTitle(), "Introducir valor");
+                       QCOMPARE(box.labelText(), "Introduzca valor a descomponer: ");
+                       QCOMPARE(box.textValue(), "");
+                       box.setTextValue(answer);
+                       QTest::keyClick(&dialog, Qt::Key_Return);
+                   });
+        QCOMPARE(Text("TbValor"), value);
+        QCOMPARE(Rows(), value == "77" ? rows : QStringList(15, emptyRow) + QStringList(""));
+    }
+
+    void the_value_is_selected_when_the_focus_comes()
+    {
+        SetValue("77");
+        Press(Qt::Key_Tab);
+        QCOMPARE(Focus(), "TbValor");
+        Settle();
+        QCOMPARE(Box("TbValor").selectedText(), "77");
+        Type("12");
+        QCOMPARE(Text("TbValor"), "12");
+    }
+
+    // The ladder
+
+    void keys_type_over_and_bars_stay()
+    {
+        Ladder().setFocus();
+        Type("12345678");
+        QCOMPARE(Rows()[0], "12345|    "); // the bar is refused, and what follows with it
+        Press(Qt::Key_Right);
+        Type("6789");
+        QCOMPARE(Rows()[0], "12345|6789");
+        Press(Qt::Key_Backspace);
+        QCOMPARE(Rows()[0], "12345|678 ");
+        Press(Qt::Key_Home);
+        Press(Qt::Key_Delete);
+        QCOMPARE(Rows()[0], " 2345|678 ");
+        QCOMPARE(Rows().size(), 16);
+        for (int i = 0; i < 5; ++i) {
+            Press(Qt::Key_Right);
+        }
+        Press(Qt::Key_Delete);
+        QCOMPARE(Rows()[0], " 2345|678 ");
+        Type("=");
+        QCOMPARE(Rows()[0], " 2345=678 ");
+    }
+
+    void a_selection_collapses_to_its_start()
+    {
+        Ladder().setFocus();
+        Type("123");
+        Press(Qt::Key_Home);
+        Press(Qt::Key_Right, Qt::ShiftModifier);
+        Press(Qt::Key_Right, Qt::ShiftModifier);
+        Type("9");
+        QCOMPARE(Rows()[0], "923  |    ");
+        Press(Qt::Key_A, Qt::ControlModifier);
+        Press(Qt::Key_Delete);
+        QCOMPARE(Rows()[0], " 23  |    ");
+        QCOMPARE(Rows().size(), 16);
+    }
+
+    void nothing_but_keys_changes_it()
+    {
+        Ladder().setFocus();
+        Type("12");
+        const QString before = Ladder().toPlainText();
+        QApplication::clipboard()->setText("77777");
+        for (const auto& [key, held] :
+             {std::pair(Qt::Key_V, Qt::ControlModifier), std::pair(Qt::Key_X, Qt::ControlModifier),
+              std::pair(Qt::Key_Z, Qt::ControlModifier), std::pair(Qt::Key_Y, Qt::ControlModifier),
+              std::pair(Qt::Key_K, Qt::ControlModifier), std::pair(Qt::Key_Insert, Qt::ShiftModifier)}) {
+            Press(Qt::Key_A, Qt::ControlModifier);
+            Press(key, held);
+            QCOMPARE(Ladder().toPlainText(), before);
+        }
+        Ladder().paste();
+        QCOMPARE(Ladder().toPlainText(), before);
+        Ladder().selectAll();
+        Ladder().cut();
+        QCOMPARE(Ladder().toPlainText(), before);
+        Ladder().undo();
+        Ladder().redo();
+        QCOMPARE(Ladder().toPlainText(), before);
+        Ladder().insertPlainText("9"); // as drop and assistive software do
+        QCOMPARE(Ladder().toPlainText(), before);
+        QVERIFY(!Ladder().isReadOnly());
+    }
+
+    void committed_input_obeys_the_rules_too()
+    {
+        Ladder().setFocus();
+        QInputMethodEvent commit;
+        commit.setCommitString("ñ7");
+        QCoreApplication::sendEvent(&Ladder(), &commit);
+        QCOMPARE(Rows()[0].size(), 10);
+        QVERIFY(Rows()[0].startsWith("ñ"));
+    }
+
+    void the_selection_can_be_copied()
+    {
+        Ladder().setFocus();
+        Type("12");
+        Press(Qt::Key_Home);
+        Press(Qt::Key_Right, Qt::ShiftModifier);
+        Press(Qt::Key_Right, Qt::ShiftModifier);
+        Press(Qt::Key_C, Qt::ControlModifier);
+        QCOMPARE(QApplication::clipboard()->text(), "12");
+    }
+
+    void leaving_it_reads_the_factors()
+    {
+        TypeDivisors({"2", "2", "3"});
+        QCOMPARE(Text("TbFactores"), "");
+        Press(Qt::Key_Tab);
+        QCOMPARE(Text("TbFactores"), "2 * 2 * 3 ");
+        TypeDivisors({"5"});
+        Box("tbResultados").setFocus();
+        QCOMPARE(Text("TbFactores"), "5 ");
+    }
+
+    // Checking
+
+    void a_wrong_product_is_told_and_counted_each_time()
+    {
+        for (int i = 1; i <= 3; ++i) {
+            const QString verdict = i == 2 ? " Resultado incorrecto" : "Resultado incorrecto";
+            QCOMPARE(Verdict("13", {"2", "2", "3"}, WrongProduct(12, 13)), QStringList(verdict));
+            QCOMPARE(Text("tbResultados"), QString("Ejercicios:  %1; Errores:  %1").arg(i));
+        }
+        QCOMPARE(Verdict("13", {"13"}), QStringList("Resultado correcto"));
+        QCOMPARE(Text("tbResultados"), "Ejercicios:  4; Errores:  3");
+        QCOMPARE(Focus(), "Command2(0)");
+    }
+
+    void factors_that_are_no_primes_are_told()
+    {
+        QCOMPARE(Verdict("12", {"4", "3"}, WrongFactors("3, 4", "2, 2, 3")), QStringList("Resultado incorrecto"));
+        QCOMPARE(Text("tbResultados"), "Ejercicios:  1; Errores:  1");
+        QCOMPARE(Verdict("12", {"12"}, WrongFactors("12", "2, 2, 3")), QStringList(" Resultado incorrecto"));
+    }
+
+    void factors_are_right_in_any_order_and_dividends_are_not_looked_at()
+    {
+        QCOMPARE(Verdict("12", {"3", "2", "2"}), QStringList("Resultado correcto"));
+        QCOMPARE(Text("tbResultados"), "Ejercicios:  1; Errores:  0");
+        QCOMPARE(Verdict("12", {"2", "3", "2"}), QStringList(" Resultado correcto"));
+        QCOMPARE(Text("tbResultados"), "Ejercicios:  1; Errores:  0");
+    }
+
+    void an_empty_ladder_is_right_for_one_alone()
+    {
+        QCOMPARE(Verdict("1", {}), QStringList("Resultado correcto"));
+        QCOMPARE(Verdict("2", {}, WrongProduct(1, 2)), QStringList("Resultado incorrecto"));
+        QCOMPARE(Verdict("-3", {}, WrongProduct(1, -3)), QStringList(" Resultado incorrecto"));
+        QCOMPARE(Verdict("", {}, WrongProduct(1, 0)), QStringList("Resultado incorrecto"));
+    }
+
+    void what_stands_behind_a_gap_must_be_sorted_as_it_is()
+    {
+        SetValue("12");
+        TypeDivisors({"2", "2", "3", "x", "5", "3"}); // the row of the "x" reads as 0
+        WithDialog([this] { Button("Command1").click(); }, Message(WrongFactors("2, 2, 3, 3, 5", "2, 2, 3, 5, 3")));
+    }
+
+    void a_prime_beyond_the_table_and_a_value_that_does_not_fit_are_harmless()
+    {
+        QCOMPARE(Verdict("1009", {"1009"}), QStringList("Resultado correcto"));
+        SetValue("1009");
+        Button("Command2(2)").click();
+        QCOMPARE(Rows(), QStringList({" 1009|1009", "    1|", ""}));
+        SetValue("99999999");
+        Button("Command2(2)").click();
+        QCOMPARE(Text("TbValor"), "1009"); // put right
+        SetValue(QString(400, '9'));
+        Button("Command2(2)").click();
+        QCOMPARE(Text("TbValor"), "1009");
+    }
+
+    void every_value_is_solved_by_its_solution()
+    {
+        for (int value = 1; value <= 1000; ++value) {
+            SetValue(QString::number(value));
+            Button("Command2(2)").click();
+            QCOMPARE(Ladder().toPlainText(),
+                     QString::fromStdU16String(ejercicios::EscaleraDe(value)).replace("\r\n", "\n"));
+            Button("Command1").click();
+            QVERIFY(Text("Text1").endsWith("Resultado correcto"));
+            QCOMPARE(Text("tbResultados"), "Ejercicios:  0; Errores:  0"); // seen, so not counted
+        }
+    }
+
+    // The buttons
+
+    void the_solution_is_shown_with_its_factors_selected()
+    {
+        SetValue("12");
+        m_ear->Take();
+        Press(Qt::Key_V, Qt::AltModifier);
+        QCOMPARE(Rows(), QStringList({"   12|2   ", "    6|2   ", "    3|3   ", "    1|", ""}));
+        QCOMPARE(Text("TbFactores"), "2 * 2 * 3 ");
+        QCOMPARE(Box("TbFactores").selectedText(), "2 * 2 * 3 ");
+        QCOMPARE(Focus(), "TbDesco");
+        QCOMPARE(Text("Text1"), "");
+    }
+
+    void clear_leaves_value_score_and_message()
+    {
+        Verdict("13", {"2"}, WrongProduct(2, 13));
+        Press(Qt::Key_B, Qt::AltModifier);
+        QCOMPARE(Rows(), QStringList(15, emptyRow) + QStringList(""));
+        QCOMPARE(Text("TbFactores"), "");
+        QCOMPARE(Text("TbValor"), "13");
+        QCOMPARE(Text("tbResultados"), "Ejercicios:  1; Errores:  1");
+        QCOMPARE(Focus(), "TbDesco");
+        Button("Command2(2)").click();
+        Button("Command2(1)").click();
+        Verdict("13", {"13"});
+        QCOMPARE(Text("tbResultados"), "Ejercicios:  1; Errores:  1"); // the solution was seen
+    }
+
+    void continue_brings_a_value_that_counts_again()
+    {
+        Verdict("13", {"13"});
+        TypeDivisors({"7"});
+        Press(Qt::Key_C, Qt::AltModifier);
+        QCOMPARE(Focus(), "TbDesco");
+        QCOMPARE(Rows(), QStringList(15, emptyRow) + QStringList(""));
+        QCOMPARE(Text("TbFactores"), "");
+        QCOMPARE(Text("Text1"), "Resultado correcto"); // stays
+        Verdict("13", {"13"});
+        QCOMPARE(Text("tbResultados"), "Ejercicios:  2; Errores:  0");
+    }
+
+    void leaving_the_message_line_puts_the_value_in_place_of_a_verdict()
+    {
+        Verdict("13", {"13"});
+        Box("Text1").setFocus();
+        Press(Qt::Key_Tab);
+        QCOMPARE(Text("Text1"), "13");
+        Box("Text1").setFocus();
+        Box("Text1").setText("2000");
+        Press(Qt::Key_Tab);
+        QCOMPARE(Text("Text1"), "13");
+        Box("Text1").setFocus();
+        Box("Text1").setText("1999.4");
+        Press(Qt::Key_Tab);
+        QCOMPARE(Text("Text1"), "1999.4"); // taken as the value
+        Box("Text1").setFocus();
+        Box("Text1").setText("x");
+        Press(Qt::Key_Tab);
+        QCOMPARE(Text("Text1"), "1999");
+    }
+};
+
+KELVORA_TEST_MAIN(tst_FormFactores)
+#include "tst_FormFactores.moc"
