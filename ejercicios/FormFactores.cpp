@@ -67,7 +67,7 @@ constexpr ui::ControlDesign controles[]{
      .says = "Marcador",
      .place = {4000, 7150, 3000, 480},
      .tab = 10,
-     .font = "Courier New"},
+     .points = 10.5},
 };
 
 constexpr ui::MenuDesign menus[]{
