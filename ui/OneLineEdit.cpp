@@ -79,7 +79,10 @@ void OneLineEdit::focusInEvent(QFocusEvent* event)
 
 void OneLineEdit::focusOutEvent(QFocusEvent* event)
 {
-    Silently([this] { deselect(); }); // as Qt does, but the pupil has left and need not hear of it
+    // As Qt does, but the pupil has left and need not hear of it. A menu or another window leaves the selection alone.
+    if (event->reason() != Qt::ActiveWindowFocusReason && event->reason() != Qt::PopupFocusReason) {
+        Silently([this] { deselect(); });
+    }
     QLineEdit::focusOutEvent(event);
 }
 

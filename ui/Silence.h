@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QAccessible>
+#include <QScopeGuard>
 
 namespace ui {
 
@@ -12,8 +13,8 @@ template <class Change>
 void Silently(Change change)
 {
     const auto handler = QAccessible::installUpdateHandler([](QAccessibleEvent*) {});
+    const auto restore = qScopeGuard([handler] { QAccessible::installUpdateHandler(handler); });
     change();
-    QAccessible::installUpdateHandler(handler);
 }
 
 } // namespace ui

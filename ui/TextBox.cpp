@@ -102,7 +102,7 @@ std::u16string TextBox::Units() const
 
 void TextBox::Edit(std::u16string_view text, int caret)
 {
-    const QString value(reinterpret_cast<const QChar*>(text.data()), static_cast<qsizetype>(text.size()));
+    const QString value = QString::fromUtf16(text.data(), static_cast<qsizetype>(text.size()));
     Alter([&] { m_edit.Edit(value, caret); });
 }
 

@@ -81,6 +81,17 @@ private slots:
         QCOMPARE(Verdict("8", "7"), QStringList("Resultado correcto  "));
     }
 
+    void any_fraction_of_equal_value_is_accepted()
+    {
+        SetOperands({3, 7, 5, 7});
+        for (const QString right : {"8/7", "16/14", "4/3.5", "-8/-7"}) {
+            Verdict(right.section('/', 0, 0), right.section('/', 1));
+            QVERIFY2(Text("Text3").startsWith("Resultado correcto"), qPrintable(right));
+        }
+        Verdict("7", "8");
+        QVERIFY(Text("Text3").startsWith("Resultado incorrecto"));
+    }
+
     void accepts_a_reduced_answer_over_a_larger_common_denominator()
     {
         SetOperands({1, 19, 1, 38});

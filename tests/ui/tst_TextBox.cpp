@@ -1,4 +1,5 @@
 #include "SampleForm.h"
+#include "Silence.h"
 #include "Support.h"
 
 #include <QClipboard>
@@ -253,6 +254,33 @@ private slots:
         QCOMPARE(Editable().SelLength(), 3);
         Press(Qt::Key_Backtab, Qt::ShiftModifier);
         QCOMPARE(Editable().SelLength(), 0); // gone with the pupil
+    }
+
+    void a_menu_or_another_window_leaves_the_selection_alone()
+    {
+        Editable().SetFocus();
+        for (const Qt::FocusReason reason : {Qt::PopupFocusReason, Qt::ActiveWindowFocusReason}) {
+            Editable().SelectAll();
+            QFocusEvent out(QEvent::FocusOut, reason);
+            QCoreApplication::sendEvent(&Editable().Widget(), &out);
+            QCOMPARE(Editable().SelLength(), 3);
+        }
+        Locked().SetFocus();
+        QCOMPARE(Editable().SelLength(), 0);
+    }
+
+    void an_exception_does_not_leave_the_reader_deaf()
+    {
+        static bool heard = false;
+        const auto previous = QAccessible::installUpdateHandler([](QAccessibleEvent*) { heard = true; });
+        try {
+            ui::Silently([] { throw 1; });
+        } catch (int) {
+        }
+        QAccessibleEvent event(&Editable().Widget(), QAccessible::NameChanged);
+        QAccessible::updateAccessibility(&event);
+        QAccessible::installUpdateHandler(previous);
+        QVERIFY(heard);
     }
 
     void a_silent_box_can_be_announced()
