@@ -79,9 +79,7 @@ Form1::Form1()
             .menus = menus,
             .resizing = ui::Resizing::Own})
 {
-    for (ui::Button& button : Command1) {
-        button.OnClick = [this](int Index) { Command1_Click(Index); };
-    }
+    Command1.OnClick(this, &Form1::Command1_Click);
     The<ui::MenuItem>("MnuAce").OnClick = [this](int) { MnuAce_Click(); };
 }
 

@@ -1,5 +1,6 @@
 #include "Escalera.h"
 
+#include "Cifras.h"
 #include "Primos.h"
 #include "Val.h"
 
@@ -26,11 +27,22 @@ double Numero(std::u16string_view texto)
     return numeros::Val(ascii);
 }
 
-std::u16string Alineado(int numero)
+bool EsFactor(Entero16 divisor)
 {
-    const std::string cifras = std::to_string(numero);
-    return std::u16string(5 - std::min<std::size_t>(5, cifras.size()), u' ') +
-           std::u16string(cifras.begin(), cifras.end());
+    return divisor.Valor() >= 2;
+}
+
+// A number at the right, or the left, of so many columns.
+std::u16string ALaDerecha(int numero, std::size_t columnas)
+{
+    const std::string texto = numeros::Alineado(numero, columnas);
+    return {texto.begin(), texto.end()};
+}
+std::u16string ALaIzquierda(int numero, std::size_t columnas)
+{
+    std::u16string texto = ALaDerecha(numero, 0);
+    texto.resize(std::max(columnas, texto.size()), u' ');
+    return texto;
 }
 
 } // namespace
@@ -83,9 +95,9 @@ bool Escalera::Suprimir()
     return true;
 }
 
-std::array<Entero16, filasEscalera> Escalera::Divisores() const
+Divisores Escalera::LeerDivisores() const
 {
-    std::array<Entero16, filasEscalera> divisores;
+    Divisores divisores;
     std::u16string_view resto = m_texto;
     for (Entero16& divisor : divisores) {
         const std::size_t salto = resto.find(u'\n');
@@ -105,6 +117,37 @@ std::array<Entero16, filasEscalera> Escalera::Divisores() const
     return divisores;
 }
 
+Entero16 Producto(const Divisores& divisores)
+{
+    Entero16 producto = 1;
+    for (auto divisor = divisores.begin(); divisor != divisores.end() && EsFactor(*divisor); ++divisor) {
+        producto = producto * *divisor;
+    }
+    return producto;
+}
+
+void Ordenar(Divisores& divisores)
+{
+    const auto menor = [](Entero16 uno, Entero16 otro) { return uno.Valor() < otro.Valor(); };
+    for (auto* desde = divisores.begin(); desde != divisores.end();) {
+        desde = std::find_if(desde, divisores.end(), EsFactor);
+        auto* hasta = std::find_if_not(desde, divisores.end(), EsFactor);
+        std::sort(desde, hasta, menor);
+        desde = hasta;
+    }
+}
+
+std::string Lista(const Divisores& divisores)
+{
+    std::string lista;
+    for (const Entero16 divisor : divisores) {
+        if (EsFactor(divisor)) {
+            lista += (lista.empty() ? "" : ", ") + std::to_string(divisor.Valor());
+        }
+    }
+    return lista;
+}
+
 std::vector<Division> Descomponer(Entero16 valor)
 {
     std::vector<Division> divisiones;
@@ -120,11 +163,9 @@ std::u16string EscaleraDe(Entero16 valor)
 {
     std::u16string texto;
     for (const auto& [dividendo, divisor] : Descomponer(valor)) {
-        const std::string cifras = std::to_string(divisor);
-        texto += Alineado(dividendo) + barra + std::u16string(cifras.begin(), cifras.end());
-        texto += std::u16string(4 - std::min<std::size_t>(4, cifras.size()), u' ').append(finDeLinea);
+        (texto += ALaDerecha(dividendo, 5) + barra + ALaIzquierda(divisor, 4)).append(finDeLinea);
     }
-    return texto + Alineado(1) + barra + std::u16string(finDeLinea);
+    return (texto += ALaDerecha(1, 5) + barra).append(finDeLinea);
 }
 
 } // namespace ejercicios

@@ -15,6 +15,9 @@ namespace ejercicios {
 inline constexpr std::u16string_view filaVacia = u"     |    ";
 inline constexpr int filasEscalera = 15;
 
+// The divisors of the rows, 0 where there is none.
+using Divisores = std::array<numeros::Entero16, filasEscalera>;
+
 class Escalera
 {
 public:
@@ -43,12 +46,21 @@ public:
     // The numbers behind the bars, row by row up to the first empty row or the fifteenth one; 0 for the rows that there
     // are not. A row without a bar is read from its start, and what follows the last line feed not at all. Throws
     // Desbordamiento where a number does not fit 16 bits.
-    std::array<numeros::Entero16, filasEscalera> Divisores() const;
+    Divisores LeerDivisores() const;
 
 private:
     std::u16string m_texto;
     std::size_t m_cursor = 0;
 };
+
+// The product of the divisors before the first one below 2. Throws Desbordamiento where it does not fit 16 bits.
+numeros::Entero16 Producto(const Divisores& divisores);
+
+// Sorts them. What is below 2 stays where it is, and those on either side of it do not mix.
+void Ordenar(Divisores& divisores);
+
+// Those above 1, with ", " between them.
+std::string Lista(const Divisores& divisores);
 
 // A step of the decomposition: dividend and divisor.
 struct Division

@@ -130,12 +130,8 @@ FormCantidad::FormCantidad()
 {
     Text6.OnKeyPress = [this](int, int KeyAscii) { return Text6_KeyPress(KeyAscii); };
     The<ui::Button>("Command1").OnClick = [this](int) { Command1_Click(); };
-    for (ui::Button& button : Command2) {
-        button.OnClick = [this](int Index) { Command2_Click(Index); };
-    }
-    for (ui::MenuItem& item : MnuOpcDenLis) {
-        item.OnClick = [this](int Index) { MnuOpcDenLis_Click(Index); };
-    }
+    Command2.OnClick(this, &FormCantidad::Command2_Click);
+    MnuOpcDenLis.OnClick(this, &FormCantidad::MnuOpcDenLis_Click);
     The<ui::MenuItem>("MnuOpcLee").OnClick = [this](int) { MnuOpcLee_Click(); };
     The<ui::MenuItem>("MnuOpcFrac").OnClick = [this](int) { MnuOpcFrac_Click(); };
     The<ui::MenuItem>("MnuOpcCan").OnClick = [this](int) { MnuOpcCan_Click(); };
@@ -160,7 +156,7 @@ KeyResult FormCantidad::Form_KeyDown(int KeyCode, int Shift)
 void FormCantidad::Command1_Click()
 {
     if (Denominador == 0) {
-        ui::Beep();
+        Text2[1].Refuse();
         return;
     }
     const bool correcto = Resultado() == Text6.Number();

@@ -88,9 +88,7 @@ FormConversion::FormConversion()
             .controls = controles})
 {
     The<ui::Button>("Command1").OnClick = [this](int) { Command1_Click(); };
-    for (ui::Button& button : Command2) {
-        button.OnClick = [this](int Index) { Command2_Click(Index); };
-    }
+    Command2.OnClick(this, &FormConversion::Command2_Click);
 }
 
 void FormConversion::Form_Load()

@@ -7,7 +7,6 @@
 #include "Random.h"
 #include "Val.h"
 
-#include <algorithm>
 #include <cmath>
 #include <vector>
 
@@ -81,32 +80,6 @@ constexpr ui::MenuDesign menus[]{
     {1, "MnuOpcsal", ui::noIndex, "&Salir (Alt F4)"},
 };
 
-// Sorts the factors. What is below 2 stays where it is, and those on either side of it do not mix.
-void Ordenar(std::array<Entero16, filasEscalera>& factores)
-{
-    const auto menor = [](Entero16 uno, Entero16 otro) { return uno.Valor() < otro.Valor(); };
-    const auto esFactor = [](Entero16 factor) { return factor.Valor() >= 2; };
-    for (auto desde = factores.begin(); desde != factores.end();) {
-        desde = std::find_if(desde, factores.end(), esFactor);
-        auto hasta = std::find_if_not(desde, factores.end(), esFactor);
-        std::sort(desde, hasta, menor);
-        desde = hasta;
-    }
-}
-
-// The numbers above 1, one behind the other.
-template <class Numeros>
-std::string Lista(const Numeros& valores)
-{
-    std::string lista;
-    for (const Entero16& valor : valores) {
-        if (valor.Valor() > 1) {
-            lista += (lista.empty() ? "" : ", ") + std::to_string(valor.Valor());
-        }
-    }
-    return lista;
-}
-
 } // namespace
 
 FormFactores::FormFactores()
@@ -123,12 +96,8 @@ FormFactores::FormFactores()
     TbValor.OnGotFocus = [this](int) { TbValor_GotFocus(); };
     Text1.OnValidate = [this](int) { Text1_Validate(); };
     The<ui::Button>("Command1").OnClick = [this](int) { Command1_Click(); };
-    for (ui::Button& button : Command2) {
-        button.OnClick = [this](int Index) { Command2_Click(Index); };
-    }
-    for (ui::MenuItem& item : MnuOpcValLis) {
-        item.OnClick = [this](int Index) { MnuOpcValLis_Click(Index); };
-    }
+    Command2.OnClick(this, &FormFactores::Command2_Click);
+    MnuOpcValLis.OnClick(this, &FormFactores::MnuOpcValLis_Click);
     The<ui::MenuItem>("MnuOpcInt").OnClick = [this](int) { MnuOpcInt_Click(); };
     The<ui::MenuItem>("MnuOpcsal").OnClick = [this](int) { MnuOpcSal_Click(); };
 }
@@ -145,15 +114,12 @@ void FormFactores::Command1_Click()
 {
     LeerValor();
     LeerEscalera(false);
-    Quince FactoresAlumno = Factores;
-    Entero16 producto = 1;
-    for (std::size_t i = 0; i < FactoresAlumno.size() && FactoresAlumno.at(i).Valor() >= 2; ++i) {
-        producto = producto * FactoresAlumno.at(i);
-    }
+    Divisores FactoresAlumno = Factores;
+    const Entero16 producto = Producto(FactoresAlumno);
     if (!(producto == Valor)) {
-        Incorrecto();
-        ui::MsgBox("El producto de los factores calculados (" + std::to_string(producto.Valor()) +
-                   " es distinto del valor inicial (" + std::to_string(Valor.Valor()) + ")"); // as unbalanced as it is
+        // The first parenthesis stays open, on purpose.
+        Incorrecto("El producto de los factores calculados (" + std::to_string(producto.Valor()) +
+                   " es distinto del valor inicial (" + std::to_string(Valor.Valor()) + ")");
         return;
     }
     Ordenar(FactoresAlumno);
@@ -166,8 +132,7 @@ void FormFactores::Command1_Click()
         correcto = correcto && (Factores.at(i).Valor() <= 1 || Factores.at(i) == FactoresAlumno.at(i));
     }
     if (!correcto) {
-        Incorrecto();
-        ui::MsgBox("Los factores primos obtenidos por usted son diferentes a los que corresponden a la cantidad "
+        Incorrecto("Los factores primos obtenidos por usted son diferentes a los que corresponden a la cantidad "
                    "utilizada.\r\nValores calculados : " +
                    Lista(FactoresAlumno) + "\r\nValores correctos: " + Lista(Factores));
         return;
@@ -210,12 +175,10 @@ KeyResult FormFactores::TbDesco_KeyPress(int KeyAscii)
         break;
     }
     if (KeyAscii < ' ' && KeyAscii != ui::KeyAscii::Enter) {
-        ui::Beep();
+        TbDesco.Refuse();
         return KeyResult::Swallow;
     }
-    Escalera escalera(TbDesco.Units(), TbDesco.SelStart());
-    const bool hecho = escalera.Escribir(static_cast<char16_t>(KeyAscii));
-    return Mostrar(escalera, hecho);
+    return Editar([KeyAscii](Escalera& escalera) { return escalera.Escribir(static_cast<char16_t>(KeyAscii)); });
 }
 
 void FormFactores::TbDesco_Validate()
@@ -263,7 +226,7 @@ void FormFactores::MnuOpcSal_Click()
 
 void FormFactores::LeerEscalera(bool soloLeer)
 {
-    Factores = Escalera(TbDesco.Units(), 0).Divisores();
+    Factores = Escalera(TbDesco.Units(), 0).LeerDivisores();
     if (soloLeer) {
         return;
     }
@@ -311,6 +274,7 @@ void FormFactores::LeerValor()
         Valor = *valor;
     } else {
         TbValor.Text(Valor.Valor());
+        TbValor.Refuse();
     }
 }
 
@@ -339,9 +303,10 @@ void FormFactores::VerSolucion()
 }
 
 // Every wrong answer counts again until the exercise is solved or its solution seen, on purpose.
-void FormFactores::Incorrecto()
+void FormFactores::Incorrecto(std::string_view motivo)
 {
     Veredicto("Resultado incorrecto");
+    ui::MsgBox(motivo);
     if (puntuable) {
         Ejercicios += 1;
         Errores += 1;
@@ -359,19 +324,13 @@ void FormFactores::MostrarResultados()
     tbResultados.Text(lenguaje::Marcador(Ejercicios.Valor(), Errores.Valor()));
 }
 
-KeyResult FormFactores::Editar(bool (Escalera::*tecla)())
+KeyResult FormFactores::Editar(const std::function<bool(Escalera&)>& tecla)
 {
     Escalera escalera(TbDesco.Units(), TbDesco.SelStart());
-    const bool hecho = (escalera.*tecla)();
-    return Mostrar(escalera, hecho);
-}
-
-KeyResult FormFactores::Mostrar(const Escalera& escalera, bool hecho)
-{
-    if (hecho) {
+    if (tecla(escalera)) {
         TbDesco.Edit(escalera.Texto(), escalera.Cursor());
     } else {
-        ui::Beep();
+        TbDesco.Refuse();
     }
     return KeyResult::Swallow;
 }

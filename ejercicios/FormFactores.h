@@ -6,7 +6,7 @@
 #include "Escalera.h"
 #include "Form.h"
 
-#include <array>
+#include <functional>
 
 namespace ejercicios {
 
@@ -15,9 +15,10 @@ class FormFactores final : public ui::Form
 public:
     FormFactores();
 
-private:
-    using Quince = std::array<numeros::Entero16, filasEscalera>;
+    // Finds the primes from 2 to 1000 and tells how many there are. Nothing in the program calls it.
+    static void BuscarPrimos();
 
+private:
     void Form_Load() override;
     void Command1_Click();
     void Command2_Click(int Index);
@@ -33,22 +34,18 @@ private:
     // Reads the divisors of the ladder into Factores, and shows them unless `soloLeer`.
     void LeerEscalera(bool soloLeer);
 
-    // Finds the primes from 2 to 1000 and tells how many there are. Nothing calls it.
-    void BuscarPrimos();
-
     void NuevaEscalera();
     void SortearValor(int limite);
     void LeerValor();
     void Continuar();
     void Borrar();
     void VerSolucion();
-    void Incorrecto();
+    void Incorrecto(std::string_view motivo);
     void Veredicto(std::string_view veredicto);
     void MostrarResultados();
 
-    // What a key does to the ladder. Refused with a beep where a bar is in the way.
-    ui::KeyResult Editar(bool (Escalera::*tecla)());
-    ui::KeyResult Mostrar(const Escalera& escalera, bool hecho);
+    // Lets a key do to the ladder what it does. Refused where a bar is in the way.
+    ui::KeyResult Editar(const std::function<bool(Escalera&)>& tecla);
 
     ui::TextBox& TbValor = The<ui::TextBox>("TbValor");
     ui::TextBox& TbDesco = The<ui::TextBox>("TbDesco");
@@ -63,7 +60,7 @@ private:
     numeros::Entero16 Ejercicios;
     numeros::Entero16 Errores;
     bool puntuable = true; // the exercise still counts
-    Quince Factores;
+    Divisores Factores;
 };
 
 } // namespace ejercicios

@@ -109,9 +109,7 @@ FormFichas::FormFichas()
             .controls = controles})
 {
     The<ui::Button>("Command1").OnClick = [this](int) { Command1_Click(); };
-    for (ui::Button& button : Command2) {
-        button.OnClick = [this](int Index) { Command2_Click(Index); };
-    }
+    Command2.OnClick(this, &FormFichas::Command2_Click);
 }
 
 void FormFichas::Form_Load()

@@ -1,6 +1,5 @@
 #include "FormOrdenar.h"
 
-#include "Dialogs.h"
 #include "Lectura.h"
 #include "Random.h"
 
@@ -93,13 +92,9 @@ FormOrdenar::FormOrdenar()
             .height = 5655,
             .controls = controles})
 {
-    for (ui::Button& button : Command1) {
-        button.OnClick = [this](int Index) { Command1_Click(Index); };
-    }
+    Command1.OnClick(this, &FormOrdenar::Command1_Click);
     The<ui::Button>("CBHecho").OnClick = [this](int) { CBHecho_Click(); };
-    for (ui::Button& button : Command2) {
-        button.OnClick = [this](int Index) { Command2_Click(Index); };
-    }
+    Command2.OnClick(this, &FormOrdenar::Command2_Click);
 }
 
 void FormOrdenar::Form_Load()
@@ -111,7 +106,7 @@ void FormOrdenar::Form_Load()
 void FormOrdenar::Command1_Click(int Index)
 {
     if (Index == 0) {
-        ui::Beep();
+        Command1[0].Refuse();
         return;
     }
     const auto posicion = static_cast<std::size_t>(Index);

@@ -1,6 +1,5 @@
 #include "FormRepresentacion.h"
 
-#include "Dialogs.h"
 #include "Lectura.h"
 #include "Marcador.h"
 #include "Random.h"
@@ -151,13 +150,9 @@ FormRepresentacion::FormRepresentacion()
     for (ui::TextBox& box : Text4) {
         box.OnChange = [this](int Index) { Text4_Change(Index); };
     }
-    for (ui::Button& parte : CbParte) {
-        parte.OnClick = [this](int Index) { CbParte_Click(Index); };
-    }
+    CbParte.OnClick(this, &FormRepresentacion::CbParte_Click);
     The<ui::Button>("Command1").OnClick = [this](int) { Command1_Click(); };
-    for (ui::Button& button : Command2) {
-        button.OnClick = [this](int Index) { Command2_Click(Index); };
-    }
+    Command2.OnClick(this, &FormRepresentacion::Command2_Click);
     The<ui::MenuItem>("MnuOpcLee").OnClick = [this](int) { MnuOpcLee_Click(); };
     The<ui::MenuItem>("MnuOpcSal").OnClick = [this](int) { MnuOpcSal_Click(); };
 }
@@ -283,8 +278,7 @@ void FormRepresentacion::PonerPartes(int rojas)
 void FormRepresentacion::Corregir(int partes)
 {
     Text4[0].Text(partes);
-    Text4[0].Say();
-    ui::Beep();
+    Text4[0].Refuse();
 }
 
 void FormRepresentacion::Continuar()

@@ -1,5 +1,6 @@
 #include "FormSeries.h"
 
+#include "Cifras.h"
 #include "Keys.h"
 #include "Random.h"
 
@@ -19,8 +20,7 @@ using ui::KeyResult;
 using ui::Typing;
 using ui::Weight;
 
-constexpr int terminos = 8;
-using Serie = std::array<Entero16, terminos>;
+constexpr int terminos = std::tuple_size_v<Serie>;
 
 // A numerator or denominator of a term. Eight columns and nine gaps share the width as two to one.
 constexpr ui::ControlDesign Termino(std::string_view name, int index, std::string_view says, int top, int tab)
@@ -125,7 +125,7 @@ std::optional<Serie> DePasoVariable(int margen)
     int paso = ConSigno(7);
     const int cambio = ConSigno(5);
     int termino =
-        paso < 0 ? ui::Draw(8, 0) - 8 * paso + 5 * std::abs(cambio) : ui::Draw(8, 1) + margen * std::abs(cambio);
+        paso < 0 ? ui::Draw(8, 0) - terminos * paso + 5 * std::abs(cambio) : ui::Draw(8, 1) + margen * std::abs(cambio);
     Serie serie;
     for (Entero16& valor : serie) {
         if (termino < 0) {
@@ -136,11 +136,6 @@ std::optional<Serie> DePasoVariable(int margen)
         paso += cambio;
     }
     return serie;
-}
-
-std::size_t Cifras(Entero16 numero)
-{
-    return std::to_string(numero.Valor()).size();
 }
 
 } // namespace
@@ -162,15 +157,9 @@ FormSeries::FormSeries()
         box.OnKeyPress = [this](int Index, int KeyAscii) { return Text2_KeyPress(Index, KeyAscii); };
     }
     The<ui::Button>("Command1").OnClick = [this](int) { Command1_Click(); };
-    for (ui::Button& button : Command2) {
-        button.OnClick = [this](int Index) { Command2_Click(Index); };
-    }
-    for (ui::MenuItem& item : MnuOpcDifLis) {
-        item.OnClick = [this](int Index) { MnuOpcDifLis_Click(Index); };
-    }
-    for (ui::MenuItem& item : MnuOpcTipLis) {
-        item.OnClick = [this](int Index) { MnuOpcTipLis_Click(Index); };
-    }
+    Command2.OnClick(this, &FormSeries::Command2_Click);
+    MnuOpcDifLis.OnClick(this, &FormSeries::MnuOpcDifLis_Click);
+    MnuOpcTipLis.OnClick(this, &FormSeries::MnuOpcTipLis_Click);
     The<ui::MenuItem>("MnuOpcSal").OnClick = [this](int) { MnuOpcSal_Click(); };
 }
 
@@ -195,10 +184,9 @@ void FormSeries::Command1_Click()
         Errores += 1;
     }
     // The second padding is as many blanks as the number has digits, on purpose.
-    const std::string primera(3 - std::min<std::size_t>(3, Cifras(Ejercicios)), ' ');
-    const std::string segunda(Cifras(Errores), ' ');
-    tbResultados.Text("Ejercicios: " + primera + std::to_string(Ejercicios.Valor()) + "; Errores: " + segunda +
-                      std::to_string(Errores.Valor()) + ".");
+    const std::string errores = std::to_string(Errores.Valor());
+    tbResultados.Text("Ejercicios: " + numeros::Alineado(Ejercicios.Valor(), 3) +
+                      "; Errores: " + std::string(errores.size(), ' ') + errores + ".");
 }
 
 void FormSeries::Command2_Click(int Index)
@@ -300,26 +288,28 @@ void FormSeries::GenerarSerie(int nivel, int subnivel)
 
 void FormSeries::MostrarSerie(int subnivel)
 {
-    // A: one run above the other throughout. B: every second term upside down.
-    const bool alterna = subnivel == 2;
-    const bool primeroB = ui::Draw(2, 1) == 2;
+    // Presentations 1 and 2: one run above the other throughout. 3 and 4: every second term upside down.
+    const int presentacion = subnivel == 0 ? ui::Draw(4, 1) : ui::Draw(2, 2 * subnivel - 1);
     for (std::size_t i = 0; i < terminos; ++i) {
-        const bool deB = primeroB != (alterna && i % 2 == 1);
+        const bool deB = (presentacion % 2 == 0) != (presentacion > 2 && i % 2 == 1);
         NumeradoresSerie.at(i) = (deB ? TerminosB : TerminosA).at(i);
         DenominadoresSerie.at(i) = (deB ? TerminosA : TerminosB).at(i);
     }
     const int k = 3 + CodigoDificultad.Valor() / 10; // by the level chosen, not by the one drawn
     PosicionHueco = k;
+    for (int i = 0; i < k; ++i) {
+        Text1[i].Text(NumeradoresSerie.at(i).Valor());
+        Text2[i].Text(DenominadoresSerie.at(i).Valor());
+    }
+    Borrar();
     for (int i = 0; i < terminos; ++i) {
+        if (i == k + 1 && Text1[k].IsVisible()) { // not yet while the screen loads
+            Text1[k].SetFocus();                  // before the box in focus goes, and the focus wanders
+        }
         Text1[i].Visible(i <= k);
         Text2[i].Visible(i <= k);
         Line1[i].Visible(i <= k);
-        if (i < k) {
-            Text1[i].Text(NumeradoresSerie.at(i).Valor());
-            Text2[i].Text(DenominadoresSerie.at(i).Valor());
-        }
     }
-    Borrar();
 }
 
 void FormSeries::Continuar()
@@ -344,7 +334,7 @@ void FormSeries::VerSolucion()
     solucionVista = true;
 }
 
-void FormSeries::Proteger(ui::TextBox& termino, const Ocho& serie) const
+void FormSeries::Proteger(ui::TextBox& termino, const Serie& serie) const
 {
     if (termino.Index() >= PosicionHueco.Valor()) {
         return;

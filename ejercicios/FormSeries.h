@@ -8,14 +8,14 @@
 
 namespace ejercicios {
 
+using Serie = std::array<numeros::Entero16, 8>;
+
 class FormSeries final : public ui::Form
 {
 public:
     FormSeries();
 
 private:
-    using Ocho = std::array<numeros::Entero16, 8>;
-
     void Form_Load() override;
     void Command1_Click();
     void Command2_Click(int Index);
@@ -35,7 +35,7 @@ private:
     void VerSolucion();
 
     // A term that is shown cannot be edited.
-    void Proteger(ui::TextBox& termino, const Ocho& serie) const;
+    void Proteger(ui::TextBox& termino, const Serie& serie) const;
 
     const ui::ControlArray<ui::TextBox> Text1 = All<ui::TextBox>("Text1"); // numerators
     const ui::ControlArray<ui::TextBox> Text2 = All<ui::TextBox>("Text2"); // denominators
@@ -46,10 +46,10 @@ private:
     const ui::ControlArray<ui::MenuItem> MnuOpcDifLis = All<ui::MenuItem>("MnuOpcDifLis");
     const ui::ControlArray<ui::MenuItem> MnuOpcTipLis = All<ui::MenuItem>("MnuOpcTipLis");
 
-    Ocho TerminosA;
-    Ocho TerminosB;
-    Ocho NumeradoresSerie;
-    Ocho DenominadoresSerie;
+    Serie TerminosA;
+    Serie TerminosB;
+    Serie NumeradoresSerie;
+    Serie DenominadoresSerie;
     numeros::Entero16 PosicionHueco = 4;
     numeros::Entero16 CodigoDificultad = 11; // level 1 to 4 and 1 for A or 2 for B
     bool SoloSeleccionado = true;            // and not the easier levels too

@@ -1,22 +1,14 @@
 #include "Marcador.h"
 
-#include <algorithm>
+#include "Cifras.h"
 
 namespace lenguaje {
 
-namespace {
-
-std::string Alineado(int numero)
-{
-    const std::string cifras = std::to_string(numero);
-    return std::string(3 - std::min<std::size_t>(3, cifras.size()), ' ') + cifras;
-}
-
-} // namespace
+using numeros::Alineado;
 
 std::string Marcador(int ejercicios, int errores)
 {
-    return "Ejercicios:" + Alineado(ejercicios) + "; Errores:" + Alineado(errores);
+    return "Ejercicios:" + Alineado(ejercicios, 3) + "; Errores:" + Alineado(errores, 3);
 }
 
 } // namespace lenguaje

@@ -1,5 +1,6 @@
 #include "Cifras.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 
@@ -15,6 +16,12 @@ std::string EnCifras(double valor, std::size_t caben, std::string_view separador
         texto.replace(punto, 1, separador);
     }
     return texto;
+}
+
+std::string Alineado(int numero, std::size_t lugares)
+{
+    const std::string cifras = std::to_string(numero);
+    return std::string(lugares - std::min(lugares, cifras.size()), ' ') + cifras;
 }
 
 } // namespace numeros

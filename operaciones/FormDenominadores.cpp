@@ -18,9 +18,7 @@ constexpr auto menus = Menus(std::array<ui::MenuDesign, 3>{{
 
 FormDenominadores::FormDenominadores(const Operacion& operacion) : FormOperacion(operacion, menus)
 {
-    for (ui::MenuItem& item : MnuOpcDenLis) {
-        item.OnClick = [this](int Index) { MnuOpcDenLis_Click(Index); };
-    }
+    MnuOpcDenLis.OnClick(this, &FormDenominadores::MnuOpcDenLis_Click);
 }
 
 // The second denominator is drawn even where the first one takes its place, so that a seed gives the same numerators

@@ -105,12 +105,8 @@ FormOperacion::FormOperacion(const Operacion& operacion, std::span<const ui::Men
         box.OnKeyPress = [this](int Index, int KeyAscii) { return Text1_KeyPress(Index, KeyAscii); };
     }
     The<ui::Button>("Command1").OnClick = [this](int) { Command1_Click(); };
-    for (ui::Button& button : Command2) {
-        button.OnClick = [this](int Index) { Command2_Click(Index); };
-    }
-    for (ui::MenuItem& item : MnuOpcCanLis) {
-        item.OnClick = [this](int Index) { MnuOpcCanLis_Click(Index); };
-    }
+    Command2.OnClick(this, &FormOperacion::Command2_Click);
+    MnuOpcCanLis.OnClick(this, &FormOperacion::MnuOpcCanLis_Click);
     The<ui::MenuItem>("MnuOpcTec").OnClick = [this](int) { MnuOpcTec_Click(); };
     The<ui::MenuItem>("MnuOpcSal").OnClick = [this](int) { MnuOpcSal_Click(); };
 }

@@ -4,6 +4,7 @@
 
 #include <QAccessible>
 #include <QAccessibleWidget>
+#include <QApplication>
 
 #if QT_VERSION < QT_VERSION_CHECK(6, 8, 0)
 #include "AccessibleBefore68.h"
@@ -28,11 +29,42 @@ QAccessibleInterface* Interface(const QString&, QObject* object)
 #endif
 }
 
+// Qt reaches the screen reader while the program is already starting. What happens before is lost, and where that is
+// the first window, the pupil hears nothing of it: the window and its focus are told again then.
+class LateReader final : public QAccessible::ActivationObserver
+{
+public:
+    void accessibilityActiveChanged(bool active) override
+    {
+        if (active && QApplication::activeWindow() != nullptr) {
+            QMetaObject::invokeMethod(qApp, TellFocus, Qt::QueuedConnection);
+        }
+    }
+
+private:
+    static void TellFocus()
+    {
+        QWidget* window = QApplication::activeWindow();
+        QWidget* focus = QApplication::focusWidget();
+        if (window == nullptr || focus == nullptr) {
+            return;
+        }
+        QAccessible::State active;
+        active.active = true;
+        QAccessibleStateChangeEvent opened(window, active);
+        QAccessible::updateAccessibility(&opened);
+        QAccessibleEvent focused(focus, QAccessible::Focus);
+        QAccessible::updateAccessibility(&focused);
+    }
+};
+
 } // namespace
 
-void InstallAccessibleInterfaces()
+void SetUpAccessibility()
 {
+    static LateReader lateReader;
     QAccessible::installFactory(Interface);
+    QAccessible::installActivationObserver(&lateReader);
 }
 
 void Announce(QWidget& source, const QString& text)

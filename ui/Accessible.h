@@ -17,8 +17,9 @@ inline constexpr bool newNamesAreRead = false; // not tried
 inline constexpr bool newNamesAreRead = QT_VERSION >= QT_VERSION_CHECK(6, 8, 0);
 #endif
 
-// Puts our accessible interfaces before Qt's. To be called once, before the first window.
-void InstallAccessibleInterfaces();
+// Puts our accessible interfaces before Qt's, and tells a screen reader that comes after the first window where the
+// focus is. To be called once, before that window.
+void SetUpAccessibility();
 
 // Sends `text` to the screen reader as a message of `source`, at once. Screens speak through the Announcer instead.
 void Announce(QWidget& source, const QString& text);

@@ -28,6 +28,9 @@ public:
     // An empty text takes that back.
     void Say(QWidget& source, const QString& text);
 
+    // Whether nothing waits to be announced.
+    bool IsSilent() const { return m_messages.empty(); }
+
     // To be called when an event of this type has been handled with all that it brought about.
     void EventEnded(QEvent::Type type);
 

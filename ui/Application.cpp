@@ -23,7 +23,7 @@ Application::Application(int& argc, char** argv) : QApplication(argc, argv)
     if (m_translator.load("qtbase_es", QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
         installTranslator(&m_translator);
     }
-    InstallAccessibleInterfaces();
+    SetUpAccessibility();
 }
 
 bool Application::notify(QObject* receiver, QEvent* event)

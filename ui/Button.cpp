@@ -2,10 +2,14 @@
 
 #include "Accessible.h"
 #include "Announcer.h"
+#include "Bell.h"
+#include "EditWidget.h"
 #include "Strings.h"
 
+#include <QApplication>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QPointer>
 #include <QRegularExpression>
 
 namespace ui {
@@ -17,6 +21,15 @@ constexpr int smallestType = 9; // pixels
 constexpr int edgeWidth = 1;
 constexpr int focusWidth = 3;
 constexpr int captionMargin = focusWidth + 2;
+
+// The focus has gone to a button and come back: for a reader that is no news, and the pupil would not know whether the
+// key has done anything.
+void SayAgain(QWidget& focus)
+{
+    if (const auto* edit = dynamic_cast<EditWidget*>(&focus)) {
+        Announcer::Instance().Say(focus, (focus.accessibleName() + ' ' + edit->CaretLine()).simplified());
+    }
+}
 
 } // namespace
 
@@ -38,8 +51,12 @@ bool FaceButton::event(QEvent* event)
         const auto* shortcut = static_cast<QShortcutEvent*>(event);
         setShortcutAutoRepeat(shortcut->shortcutId(), false); // a key held down presses once
         if (!shortcut->isAmbiguous()) {
+            const QPointer<QWidget> before = QApplication::focusWidget();
             setFocus(Qt::ShortcutFocusReason);
             click();
+            if (before && before == QApplication::focusWidget() && Announcer::Instance().IsSilent()) {
+                SayAgain(*before);
+            }
             return true;
         }
     }
@@ -113,6 +130,12 @@ void Button::Says(std::string_view name)
         m_says = says;
         NameChanged();
     }
+}
+
+void Button::Refuse() const
+{
+    Beep();
+    Announcer::Instance().Say(m_button, m_name);
 }
 
 void Button::NameChanged()

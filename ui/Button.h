@@ -43,6 +43,9 @@ public:
     // The accessible name. Without one it is the caption, without "&" and line breaks.
     void Says(std::string_view name);
 
+    // Beeps and says the name: pressing the button has changed nothing.
+    void Refuse() const;
+
     void BackColor(Color color) { m_button.SetFace(ToQColor(color)); }
 
     // Handler, with the button's index in its array.

@@ -17,6 +17,16 @@ public:
     T& operator[](int index) const { return m_members.at(static_cast<std::size_t>(index)); }
     auto begin() const { return m_members.begin(); }
     auto end() const { return m_members.end(); }
+
+    // Gives all of them one handler, which is told the index.
+    template <class Screen>
+    void OnClick(Screen* screen, void (Screen::*handler)(int Index)) const
+    {
+        for (T& member : m_members) {
+            member.OnClick = [screen, handler](int Index) { (screen->*handler)(Index); };
+        }
+    }
+
     int Count() const { return static_cast<int>(m_members.size()); }
 
 private:

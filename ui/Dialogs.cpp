@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QInputDialog>
+#include <QKeyEvent>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -16,6 +17,27 @@ QString TitleOr(std::string_view title)
 {
     return title.empty() ? QApplication::applicationName() : ToQString(title);
 }
+
+// A finger that stays on the Enter that opened a box must not answer it too, unread.
+class HeldEnter final : public QObject
+{
+public:
+    explicit HeldEnter(const QDialog& box)
+    {
+        for (QWidget* widget : box.findChildren<QWidget*>()) {
+            widget->installEventFilter(this);
+        }
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() == QEvent::KeyPress) {
+            const auto* key = static_cast<QKeyEvent*>(event);
+            return key->isAutoRepeat() && (key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter);
+        }
+        return QObject::eventFilter(watched, event);
+    }
+};
 
 // Captions of our own, since Qt's Spanish ones come from a file that may be missing.
 QMessageBox::StandardButton Show(QMessageBox::Icon icon, std::string_view title, std::string_view text,
@@ -31,6 +53,7 @@ QMessageBox::StandardButton Show(QMessageBox::Icon icon, std::string_view title,
         box.button(QMessageBox::No)->setText("&No");
         box.setEscapeButton(QMessageBox::No);
     }
+    const HeldEnter ignored(box);
     return static_cast<QMessageBox::StandardButton>(box.exec());
 }
 
@@ -60,12 +83,8 @@ std::string InputBox(std::string_view prompt, std::string_view title, std::strin
     Silently([&] { box.setTextValue(ToQString(initial)); }); // it is read when the box opens
     box.setOkButtonText("Aceptar");
     box.setCancelButtonText("Cancelar");
+    const HeldEnter ignored(box);
     return box.exec() == QDialog::Accepted ? box.textValue().toStdString() : std::string();
-}
-
-void Beep()
-{
-    QApplication::beep();
 }
 
 } // namespace ui

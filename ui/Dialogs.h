@@ -1,4 +1,4 @@
-// Message boxes, input boxes and the beep. While a box is open the rest of the program waits; afterwards the focus is
+// Message boxes and input boxes. While a box is open the rest of the program waits; afterwards the focus is
 // where it was. Without a `title` a box bears the application's name.
 #pragma once
 
@@ -20,7 +20,5 @@ void FatalBox(std::string_view text);
 
 // Asks for a text, beginning with `initial`. Empty where the pupil cancels.
 std::string InputBox(std::string_view prompt, std::string_view title, std::string_view initial = {});
-
-void Beep();
 
 } // namespace ui

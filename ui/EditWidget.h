@@ -36,6 +36,9 @@ public:
     virtual int SelLength() const = 0;
     virtual void Select(int start, int length) = 0;
 
+    // The line of the text in which the caret is.
+    virtual QString CaretLine() const = 0;
+
     // Takes the colours from the desktop's theme.
     virtual void TakeColors() = 0;
 
@@ -56,6 +59,9 @@ public:
 
     // Called when the pupil, and not the program, has changed the text.
     std::function<void()> edited;
+
+    // Called when the pupil has tried to change the text by a way that it is closed to.
+    std::function<void()> refused;
 
 protected:
     // The theme's colours for a box. A locked one is not white like those that wait for an answer.

@@ -126,17 +126,15 @@ bool Form::eventFilter(QObject* watched, QEvent* event)
     // A key that a box in a frame leaves alone comes to the frame too, and is none of the frame's.
     Control* control = watched == focusWidget() ? ControlOf(watched) : nullptr;
     if (Control* other = ControlOf(watched); other != nullptr && IsFocusMove(*event)) {
-        if (event->type() == QEvent::FocusIn) {
-            Silently([other] { other->GotFocus(); }); // the reader learns of the focus first
-        } else {
-            other->Validate();
-        }
+        // The reader learns of the focus first: a box that is told of before is taken for the one in focus, and its focus
+        // for no news.
+        Silently([&] { event->type() == QEvent::FocusIn ? other->GotFocus() : other->Validate(); });
     }
     KeyResult result = KeyResult::Pass;
     if (control != nullptr && event->type() == QEvent::KeyPress) {
         result = KeyPressed(*control, *static_cast<QKeyEvent*>(event));
     } else if (control != nullptr && event->type() == QEvent::InputMethod) {
-        result = Committed(*control, static_cast<QInputMethodEvent*>(event)->commitString());
+        Commit(*control, *static_cast<QInputMethodEvent*>(event));
     }
     return result == KeyResult::Swallow || QMainWindow::eventFilter(watched, event);
 }
@@ -216,14 +214,16 @@ KeyResult Form::KeyPressed(Control& control, const QKeyEvent& event)
     return control.KeyPressed(character);
 }
 
-KeyResult Form::Committed(Control& control, const QString& text)
+// Each character of a text that an input method commits is a key pressed, and the box gets what its handlers let pass.
+void Form::Commit(Control& control, QInputMethodEvent& event)
 {
-    for (const QChar character : text) {
-        if (control.KeyPressed(character.unicode()) == KeyResult::Swallow) {
-            return KeyResult::Swallow;
+    QString passed;
+    for (const QChar character : event.commitString()) {
+        if (control.KeyPressed(character.unicode()) == KeyResult::Pass) {
+            passed += character;
         }
     }
-    return KeyResult::Pass;
+    event.setCommitString(passed, event.replacementStart(), event.replacementLength());
 }
 
 Control* Form::ControlOf(const QObject* widget) const

@@ -88,7 +88,7 @@ private:
     void ChainTabOrder();
     void Arrange();
     KeyResult KeyPressed(Control& control, const QKeyEvent& event);
-    KeyResult Committed(Control& control, const QString& text);
+    static void Commit(Control& control, QInputMethodEvent& event);
     Control* ControlOf(const QObject* widget) const;
 
     const FormDesign m_design;

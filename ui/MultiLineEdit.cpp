@@ -1,6 +1,5 @@
 #include "MultiLineEdit.h"
 
-#include <QApplication>
 #include <QFocusEvent>
 #include <QPainter>
 #include <QTextBlock>
@@ -92,9 +91,10 @@ void MultiLineEdit::Edit(const QString& text, int caret)
 // Whatever has changed the text was none of its handlers.
 void MultiLineEdit::Guard()
 {
-    const int caret = std::min(SelStart(), static_cast<int>(m_kept.size()));
-    QApplication::beep();
-    Edit(m_kept, caret);
+    Edit(m_kept, std::min(SelStart(), static_cast<int>(m_kept.size())));
+    if (refused) {
+        refused();
+    }
 }
 
 int MultiLineEdit::SelStart() const
@@ -118,6 +118,11 @@ void MultiLineEdit::Select(int start, int length)
     setTextCursor(cursor);
 }
 
+QString MultiLineEdit::CaretLine() const
+{
+    return FromDocument(textCursor().block().text());
+}
+
 void MultiLineEdit::TakeColors()
 {
     setPalette(Colors(m_coloring, isReadOnly()));
@@ -127,7 +132,8 @@ void MultiLineEdit::focusInEvent(QFocusEvent* event)
 {
     QPlainTextEdit::focusInEvent(event);
     viewport()->update(); // the edge too
-    if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason) {
+    const bool byTab = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
+    if (byTab && isReadOnly()) { // who works on a text goes on where the caret was left
         CaretToStart(*this);
     }
 }

@@ -21,6 +21,7 @@ public:
     void Edit(const QString& text, int caret) override;
     int SelStart() const override;
     int SelLength() const override;
+    QString CaretLine() const override;
     void Select(int start, int length) override;
     void TakeColors() override;
 

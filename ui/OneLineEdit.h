@@ -21,6 +21,7 @@ public:
     void Edit(const QString& text, int caret) override;
     int SelStart() const override { return hasSelectedText() ? selectionStart() : cursorPosition(); }
     int SelLength() const override { return static_cast<int>(selectedText().size()); }
+    QString CaretLine() const override { return text(); }
     void Select(int start, int length) override;
 
     // The type that the box has when its text is short.

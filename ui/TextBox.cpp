@@ -1,6 +1,7 @@
 #include "TextBox.h"
 
 #include "Announcer.h"
+#include "Bell.h"
 #include "MultiLineEdit.h"
 #include "OneLineEdit.h"
 #include "Silence.h"
@@ -31,6 +32,7 @@ TextBox::TextBox(const ControlDesign& design, std::pair<QWidget*, EditWidget*> w
 {
     m_edit.SetExactText(ToQString(design.text));
     m_edit.edited = [this] { Changed(); };
+    m_edit.refused = [this] { Refuse(); };
 }
 
 // In focus the reader follows the box; elsewhere nobody does.
@@ -93,6 +95,12 @@ void TextBox::SelectAll()
 void TextBox::Say() const
 {
     Announcer::Instance().Say(Widget(), m_edit.ExactText());
+}
+
+void TextBox::Refuse() const
+{
+    Beep();
+    Announcer::Instance().Say(Widget(), m_edit.CaretLine());
 }
 
 std::u16string TextBox::Units() const

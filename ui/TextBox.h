@@ -35,6 +35,9 @@ public:
     // Announces the text, of a box that is not spoken whenever the program writes to it.
     void Say() const;
 
+    // Beeps and says the line of the caret: what the pupil has just tried is refused or put right, and this holds.
+    void Refuse() const;
+
     // The text in UTF-16, of which SelStart and SelLength count the units; and another one, with the caret after
     // `caret` of its units, as if the pupil had typed what is different. Does not run Change.
     std::u16string Units() const;

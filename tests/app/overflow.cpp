@@ -1,9 +1,10 @@
 // A pupil who drives a number out of its range: by answering wrongly once more than the counters can count, or with a
-// quantity and a numerator of one's own. Prints the score before and after, and the message that ends the program; its
+// quantity and a numerator of one's own, or by divisors whose product is too large. Prints the score before and after, and the message that ends the program; its
 // exit status is the program's.
 #include "Application.h"
 #include "Form2.h"
 #include "FormCantidad.h"
+#include "FormFactores.h"
 #include "Support.h"
 
 #include <QAction>
@@ -60,21 +61,43 @@ void AskForTooMuch(QWidget& form)
     PressTheLastKey(form); // 2520 * 14 is 35280
 }
 
+void DivideByTooMuch(const QWidget& form)
+{
+    for (const char* divisor : {"256", "256"}) {
+        support::Child<QWidget>(form, "TbDesco").setFocus();
+        for (int column = 0; column < 6; ++column) {
+            support::Press(Qt::Key_Right);
+        }
+        support::Type(divisor);
+        support::Press(Qt::Key_Down);
+        support::Press(Qt::Key_Home);
+    }
+    support::Child<QWidget>(form, "Command1").setFocus();
+    PressTheLastKey(form);
+}
+
 } // namespace
 
 int main(int argc, char** argv)
 {
     ui::Application application(argc, argv);
-    const bool counting = std::string_view(argv[argc - 1]) == "counting";
-    ui::Form* form = counting ? static_cast<ui::Form*>(new operaciones::Form2) : new ejercicios::FormCantidad;
+    const std::string_view way = argv[argc - 1];
+    ui::Form* form = nullptr;
+    std::function<void()> act;
+    if (way == "counting") {
+        form = new operaciones::Form2;
+        act = [form] { AnswerWronglyTooOften(*form); };
+    } else if (way == "multiplying") {
+        form = new ejercicios::FormCantidad;
+        act = [form] { AskForTooMuch(*form); };
+    } else {
+        form = new ejercicios::FormFactores;
+        act = [form] { DivideByTooMuch(*form); };
+    }
     form->Open(ui::Modality::Modeless);
-    QTimer::singleShot(0, form, [form, counting] {
+    QTimer::singleShot(0, form, [form, act] {
         support::WaitActive(*form);
-        if (counting) {
-            AnswerWronglyTooOften(*form);
-        } else {
-            AskForTooMuch(*form);
-        }
+        act();
     });
     return ui::Application::exec();
 }

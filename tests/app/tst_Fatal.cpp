@@ -14,6 +14,8 @@ private slots:
                                  << "Ejercicios:32767; Errores:32767";
         QTest::addRow("product") << "multiplying"
                                  << "Ejercicios:  0; Errores:  0";
+        QTest::addRow("divisors") << "dividing"
+                                  << "Ejercicios:  0; Errores:  0";
     }
     void a_number_beyond_its_range_ends_the_program_with_a_message()
     {

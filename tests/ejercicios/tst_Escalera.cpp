@@ -56,7 +56,7 @@ struct Naive
 std::vector<int> Divisors(const char16_t* text)
 {
     std::vector<int> read;
-    for (const numeros::Entero16& divisor : Escalera(text, 0).Divisores()) {
+    for (const numeros::Entero16& divisor : Escalera(text, 0).LeerDivisores()) {
         read.push_back(divisor.Valor());
     }
     while (!read.empty() && read.back() == 0) {
@@ -193,6 +193,21 @@ private slots:
         }
         QCOMPARE(Divisors(many.c_str()).size(), std::size_t{15});
         QVERIFY_THROWS_EXCEPTION(Desbordamiento, Divisors(u"40000\r\n"));
+    }
+
+    void divisors_are_multiplied_up_to_a_gap_sorted_on_either_side_of_it_and_listed()
+    {
+        ejercicios::Divisores divisors{5, 3, 2, 0, 7, 2, 1, -4, 11};
+        QCOMPARE(Producto(divisors).Valor(), 30);
+        Ordenar(divisors);
+        QVERIFY(divisors == (ejercicios::Divisores{2, 3, 5, 0, 2, 7, 1, -4, 11}));
+        QCOMPARE(Lista(divisors), "2, 3, 5, 2, 7, 11");
+        divisors.fill(2);
+        QCOMPARE(Lista({}), "");
+        QCOMPARE(Producto({}).Valor(), 1);
+        QVERIFY_THROWS_EXCEPTION(Desbordamiento, Producto(divisors)); // 2 to the fifteenth is one too many
+        divisors.back() = 0;
+        QCOMPARE(Producto(divisors).Valor(), 16384);
     }
 
     void every_value_has_its_decomposition()

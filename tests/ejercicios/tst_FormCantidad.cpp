@@ -412,7 +412,7 @@ private slots:
         Verdict("x");
         m_ear->Take();
         Press(Qt::Key_B, Qt::AltModifier);
-        QCOMPARE(m_ear->Take(), QStringList({"FOCUS Command2(1)", "FOCUS Text6"}));
+        QCOMPARE(m_ear->Take(), QStringList({"FOCUS Command2(1)", "FOCUS Text6", "SAY Resultado"}));
         QCOMPARE(Text("Text6") + Text("Text7"), "");
         QCOMPARE(Exercise(), exercise);
         QCOMPARE(Text("tbResultados"), "Ejercicios:  1; Errores:  1");
@@ -424,7 +424,7 @@ private slots:
         Verdict("1");
         m_ear->Take();
         Press(Qt::Key_V, Qt::AltModifier);
-        QCOMPARE(m_ear->Take(), QStringList({"FOCUS Command2(2)", "FOCUS Text6"}));
+        QCOMPARE(m_ear->Take(), QStringList({"FOCUS Command2(2)", "FOCUS Text6", "SAY Resultado 15"}));
         QCOMPARE(Text("Text6"), "15");
         QCOMPARE(Box("Text6").selectedText(), "15");
         QCOMPARE(Text("Text7"), "Resultado incorrecto");

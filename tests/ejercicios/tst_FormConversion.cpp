@@ -87,6 +87,11 @@ private slots:
         QVERIFY(!GivenTexts().contains(""));
     }
 
+    void the_seed_is_the_timer()
+    {
+        VerifySeedOfTheTimer([] { return new ejercicios::FormConversion; }, [this] { return GivenTexts(); });
+    }
+
     void each_fraction_is_a_numerator_over_a_bar_over_a_denominator()
     {
         for (int i = 0; i < 2; ++i) {

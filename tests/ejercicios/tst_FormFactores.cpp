@@ -179,6 +179,19 @@ private slots:
         QVERIFY(seen.contains(1) && seen.contains(limit));
     }
 
+    void the_first_value_is_one_of_a_hundred_by_the_timer()
+    {
+        VerifySeedOfTheTimer([] { return new ejercicios::FormFactores; }, [this] { return Text("TbValor"); });
+        int largest = 0;
+        for (unsigned seed = 0; seed < 40; ++seed) {
+            CloseScreen();
+            ui::FixSeed(seed);
+            OpenScreen(new ejercicios::FormFactores);
+            largest = std::max(largest, Text("TbValor").toInt());
+        }
+        QVERIFY(largest > 20);
+    }
+
     void an_own_value_is_taken_up_to_a_thousand_data()
     {
         QTest::addColumn<QString>("answer");
@@ -206,7 +219,9 @@ private slots:
         QFETCH(QString, answer);
         QFETCH(QString, value);
         SetValue("77");
+        Button("Command2(2)").click(); // seen, so that it does not count
         TypeDivisors({"7"});
+        Press(Qt::Key_Tab);
         const QStringList rows = Rows();
         WithDialog([] { Press(Qt::Key_F2); },
                    [answer](QWidget& dialog) {
@@ -219,6 +234,10 @@ private slots:
                    });
         QCOMPARE(Text("TbValor"), value);
         QCOMPARE(Rows(), value == "77" ? rows : QStringList(15, emptyRow) + QStringList(""));
+        QCOMPARE(Text("TbFactores"), "7 ");
+        Activate();
+        Verdict("7", {"7"});
+        QCOMPARE(Text("tbResultados"), "Ejercicios:  0; Errores:  0");
     }
 
     void the_value_is_selected_when_the_focus_comes()
@@ -255,6 +274,54 @@ private slots:
         QCOMPARE(Rows()[0], " 2345|678 ");
         Type("=");
         QCOMPARE(Rows()[0], " 2345=678 ");
+    }
+
+    void what_a_bar_refuses_beeps_and_says_the_row()
+    {
+        Ladder().setFocus();
+        Type("12345");
+        m_ear->Take();
+        const QStringList refused{"BEEP", "SAY 12345|    "};
+        Type("6");
+        QCOMPARE(m_ear->Take(), refused);
+        Press(Qt::Key_Delete);
+        QCOMPARE(m_ear->Take(), refused);
+        Press(Qt::Key_Right);
+        Press(Qt::Key_Backspace);
+        QCOMPARE(m_ear->Take(), refused);
+        Press(Qt::Key_V, Qt::ControlModifier);
+        QCOMPARE(m_ear->Take(), refused);
+        Ladder().insertPlainText("9"); // as drop and assistive software do
+        QCOMPARE(m_ear->Take(), refused);
+        Type("9");
+        QCOMPARE(m_ear->Take(), QStringList());
+    }
+
+    void enter_takes_the_place_of_a_character()
+    {
+        Ladder().setFocus();
+        Type("12");
+        Press(Qt::Key_Home);
+        Press(Qt::Key_Return);
+        QCOMPARE(Rows().size(), 17);
+        QCOMPARE(Rows()[0] + "/" + Rows()[1], "/2   |    ");
+        for (int i = 0; i < 4; ++i) {
+            Press(Qt::Key_Right);
+        }
+        Press(Qt::Key_Return);
+        QCOMPARE(Rows().size(), 17); // not over a bar
+    }
+
+    void the_caret_stays_in_its_row_while_the_focus_is_elsewhere()
+    {
+        Ladder().setFocus();
+        Press(Qt::Key_Down);
+        Type("12");
+        Press(Qt::Key_Backtab, Qt::ShiftModifier);
+        Press(Qt::Key_Tab);
+        Settle();
+        Type("3");
+        QCOMPARE(Rows()[1], "123  |    ");
     }
 
     void a_selection_collapses_to_its_start()
@@ -305,8 +372,10 @@ private slots:
         QInputMethodEvent commit;
         commit.setCommitString("ñ7");
         QCoreApplication::sendEvent(&Ladder(), &commit);
-        QCOMPARE(Rows()[0].size(), 10);
-        QVERIFY(Rows()[0].startsWith("ñ"));
+        QCOMPARE(Rows()[0], "ñ7   |    ");
+        commit.setCommitString("34567");
+        QCoreApplication::sendEvent(&Ladder(), &commit);
+        QCOMPARE(Rows()[0], "ñ7345|    "); // and not over the bar
     }
 
     void the_selection_can_be_copied()
@@ -343,6 +412,22 @@ private slots:
         QCOMPARE(Verdict("13", {"13"}), QStringList("Resultado correcto"));
         QCOMPARE(Text("tbResultados"), "Ejercicios:  4; Errores:  3");
         QCOMPARE(Focus(), "Command2(0)");
+    }
+
+    void a_wrong_answer_counts_when_its_box_is_closed_and_leaves_the_focus()
+    {
+        SetValue("13");
+        m_ear->Take();
+        WithDialog([] { Press(Qt::Key_H, Qt::AltModifier); },
+                   [this](QWidget& dialog) {
+                       QCOMPARE(Text("Text1"), "Resultado incorrecto");
+                       QCOMPARE(Text("tbResultados"), "Ejercicios:  0; Errores:  0");
+                       QTest::keyClick(&dialog, Qt::Key_Return);
+                   });
+        QCOMPARE(Text("tbResultados"), "Ejercicios:  1; Errores:  1");
+        Activate();
+        QCOMPARE(Focus(), "Command1");
+        QCOMPARE(m_ear->TakeSaid(), QStringList("Resultado incorrecto"));
     }
 
     void factors_that_are_no_primes_are_told()
@@ -382,8 +467,10 @@ private slots:
         Button("Command2(2)").click();
         QCOMPARE(Rows(), QStringList({" 1009|1009", "    1|", ""}));
         SetValue("99999999");
-        Button("Command2(2)").click();
+        m_ear->Take();
+        Press(Qt::Key_V, Qt::AltModifier);
         QCOMPARE(Text("TbValor"), "1009"); // put right
+        QVERIFY(m_ear->Take().contains("BEEP"));
         SetValue(QString(400, '9'));
         Button("Command2(2)").click();
         QCOMPARE(Text("TbValor"), "1009");
@@ -440,6 +527,7 @@ private slots:
         QCOMPARE(Rows(), QStringList(15, emptyRow) + QStringList(""));
         QCOMPARE(Text("TbFactores"), "");
         QCOMPARE(Text("Text1"), "Resultado correcto"); // stays
+        QCOMPARE(Box("TbValor").selectedText(), Text("TbValor"));
         Verdict("13", {"13"});
         QCOMPARE(Text("tbResultados"), "Ejercicios:  2; Errores:  0");
     }
@@ -448,12 +536,16 @@ private slots:
     {
         Verdict("13", {"13"});
         Box("Text1").setFocus();
+        m_ear->Take();
         Press(Qt::Key_Tab);
         QCOMPARE(Text("Text1"), "13");
-        Box("Text1").setFocus();
-        Box("Text1").setText("2000");
-        Press(Qt::Key_Tab);
-        QCOMPARE(Text("Text1"), "13");
+        QCOMPARE(m_ear->Take(), QStringList({"FOCUS Command2(0)", "SAY 13"}));
+        for (const char* outside : {"2000", "1", "0.5", "-3"}) {
+            Box("Text1").setFocus();
+            Box("Text1").setText(outside);
+            Press(Qt::Key_Tab);
+            QCOMPARE(Text("Text1"), "13");
+        }
         Box("Text1").setFocus();
         Box("Text1").setText("1999.4");
         Press(Qt::Key_Tab);
@@ -462,6 +554,35 @@ private slots:
         Box("Text1").setText("x");
         Press(Qt::Key_Tab);
         QCOMPARE(Text("Text1"), "1999");
+    }
+
+    void leaving_the_message_line_at_first_shows_the_first_value()
+    {
+        Box("Text1").setFocus();
+        Press(Qt::Key_Tab);
+        QCOMPARE(Text("Text1"), Text("TbValor"));
+    }
+
+    void a_menu_leaves_the_message_line_alone()
+    {
+        Verdict("13", {"13"});
+        Box("Text1").setFocus();
+        Press(Qt::Key_O, Qt::AltModifier);
+        QVERIFY(QApplication::activePopupWidget() != nullptr);
+        QCOMPARE(Text("Text1"), "Resultado correcto");
+        Press(Qt::Key_Escape);
+    }
+
+    void the_primes_up_to_a_thousand_are_counted()
+    {
+        WithDialog(ejercicios::FormFactores::BuscarPrimos, Message("Encontrados 168 números primos"));
+    }
+
+    void leaving_closes_the_screen()
+    {
+        Choose("MnuOpcsal");
+        Settle();
+        QVERIFY(!m_form);
     }
 };
 

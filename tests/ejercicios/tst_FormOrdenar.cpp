@@ -172,6 +172,11 @@ private slots:
         QVERIFY(oneBeforeTen > 0); // a 10 can still follow a 1
     }
 
+    void the_seed_is_the_timer()
+    {
+        VerifySeedOfTheTimer([] { return new ejercicios::FormOrdenar; }, [this] { return Shown(); });
+    }
+
     void continuing_leads_to_the_first_fraction()
     {
         Verdict();
@@ -209,14 +214,14 @@ private slots:
         }
     }
 
-    void the_leftmost_fraction_stays()
+    void the_leftmost_fraction_stays_and_says_so()
     {
         const Row before = Shown();
         Fraction(0).setFocus();
         m_ear->Take();
         Press(Qt::Key_Space);
         QCOMPARE(Shown(), before);
-        QCOMPARE(m_ear->Take(), QStringList());
+        QCOMPARE(m_ear->Take(), QStringList({"BEEP", "SAY " + Words(before.numerators[0], before.denominators[0])}));
     }
 
     void the_verdict_alternates_and_leads_on()
@@ -273,6 +278,29 @@ private slots:
             QVERIFY(Shown().Increasing());
             QCOMPARE(Focus(), "Command2(2)");
         }
+    }
+
+    void clearing_exchanges_what_is_drawn()
+    {
+        ui::FixSeed(99);
+        QSet<bool> kinds;
+        for (unsigned round = 0; round < 200; ++round) {
+            Continue();
+            Row expected = Shown();
+            const bool same = expected.denominators[0] == expected.denominators[1];
+            kinds.insert(same);
+            auto& varying = same ? expected.numerators : expected.denominators;
+            ui::Randomize(round);
+            do {
+                const int i = static_cast<int>(4 * ui::Rnd());
+                const int j = static_cast<int>(4 * ui::Rnd());
+                std::swap(varying.at(i), varying.at(j));
+            } while (expected.Increasing());
+            ui::Randomize(round);
+            Button("Command2(1)").click();
+            QCOMPARE(Shown(), expected);
+        }
+        QCOMPARE(kinds.size(), 2);
     }
 
     void clearing_shuffles_until_they_are_out_of_order()

@@ -472,7 +472,7 @@ private slots:
         Done();
         m_ear->Take();
         Press(Qt::Key_B, Qt::AltModifier);
-        QCOMPARE(m_ear->Take(), QStringList({"FOCUS Command2(1)", "FOCUS Text4(0)"}));
+        QCOMPARE(m_ear->Take(), QStringList({"FOCUS Command2(1)", "FOCUS Text4(0)", "SAY Partes en total"}));
         QCOMPARE(Total().text(), "");
         QCOMPARE(Coloured().text(), "0");
         QCOMPARE(Parts(), "vvvv");

@@ -144,11 +144,18 @@ private:
         return terms;
     }
 
-    // The term that the screen itself shows as the solution, taken away again.
+    // The term that the screen itself shows as the solution, which now counts as seen.
     std::pair<QString, QString> Solution() const
     {
         Button("Command2(2)").click();
         return {Numerator(Blank()).text(), Denominator(Blank()).text()};
+    }
+
+    // The next term of a series of level 1A, from those on view.
+    QString ByTheRule(const char* row) const
+    {
+        const QList<int> terms = Shown(row);
+        return QString::number(2 * terms.back() - terms[terms.size() - 2]);
     }
 
     QStringList Verdict(const QString& numerator, const QString& denominator) const
@@ -312,6 +319,12 @@ private slots:
                 QCOMPARE(Numerator(i).text(), QString::number(onView->numerators.at(i)));
                 QCOMPARE(Denominator(i).text(), QString::number(onView->denominators.at(i)));
             }
+            if (series) {
+                const QStringList term{QString::number(onView->numerators.at(Blank())),
+                                       QString::number(onView->denominators.at(Blank()))};
+                const auto [numerator, denominator] = Solution();
+                QCOMPARE(QStringList({numerator, denominator}), term);
+            }
             if (only) {
                 VerifyKind(chosen, letter);
             }
@@ -377,6 +390,19 @@ private slots:
         }
     }
 
+    void a_shorter_series_moves_the_focus_once()
+    {
+        Choose("MnuOpcDifLis(6)"); // 4A
+        while (Blank() != 7) {
+            Continue();
+        }
+        Choose("MnuOpcDifLis(0)");
+        QCOMPARE(Focus(), "Text1(7)");
+        m_ear->Take();
+        Choose("MnuOpcTipLis(0)");
+        QCOMPARE(m_ear->Take(), QStringList("FOCUS Text1(4)"));
+    }
+
     // Checking
 
     void every_right_check_counts_an_exercise_and_every_wrong_one_an_error()
@@ -437,6 +463,12 @@ private slots:
         Click("Command2(1)");
         Verdict(numerator, denominator);
         QCOMPARE(Text("tbResultados"), "Ejercicios:   0; Errores:  1."); // clearing does not change that
+        Choose("MnuOpcTipLis(0)");
+        Verdict(ByTheRule("Text1"), ByTheRule("Text2"));
+        QCOMPARE(Text("tbResultados"), "Ejercicios:   0; Errores:  1."); // nor does the new series of a type
+        Continue();
+        QCOMPARE(Verdict(ByTheRule("Text1"), ByTheRule("Text2")), QStringList("Respuesta correcta"));
+        QCOMPARE(Text("tbResultados"), "Ejercicios:   1; Errores:  1.");
     }
 
     // Keys and protected terms
@@ -493,7 +525,8 @@ private slots:
         QCOMPARE(Numerator(4).text() + Denominator(4).text(), "");
         QCOMPARE(Text("Text3"), "Respuesta incorrecta");
         Press(Qt::Key_V, Qt::AltModifier);
-        QCOMPARE(m_ear->Take(), QStringList({"FOCUS Command2(2)", "FOCUS Text1(4)"}));
+        QCOMPARE(m_ear->Take(), QStringList({"FOCUS Command2(2)", "FOCUS Text1(4)",
+                                             "SAY Numerador del término 5 " + Numerator(4).text()}));
         QCOMPARE(Text("Text3"), "");
         Verdict("1", "2");
         Press(Qt::Key_C, Qt::AltModifier);

@@ -3,7 +3,7 @@
 
 namespace ui {
 
-void InstallAccessibleInterfaces()
+void SetUpAccessibility()
 {
 }
 

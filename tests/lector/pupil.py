@@ -39,15 +39,23 @@ def sentence(text):
 
 
 def said(text):
-    return ["notificación.", sentence(text)] if OLD else [text]
+    """An announcement. Of a single character, see `echo`."""
+    if OLD:
+        return ["notificación.", sentence(text)]
+    return [text] if len(text) > 1 else []
 
 
 def window(title):
     return [f"{title} marco."] if OLD else [f"{title} marco"]
 
 
+class Perhaps(str):
+    """A text that may be missing."""
+
+
 def window_again(title):
-    return window(title) if OLD else [title]
+    """The window comes back. Orca 48 may take it for the one where it was; see `expect_window`."""
+    return window(title) if OLD else [Perhaps(title)]
 
 
 def button(name):
@@ -96,6 +104,7 @@ def renamed(name):
 
 class Lesson(unittest.TestCase):
     maxDiff = None
+    modal = False  # the screen blocks the menu
 
     def setUp(self):
         self.session = Session()
@@ -109,7 +118,9 @@ class Lesson(unittest.TestCase):
     def expect(self, *parts):
         """What was heard since the last call is exactly this, each text once and to its end."""
         expected = [text for part in parts for text in part]
-        self.assertEqual(self.session.heard(len(expected)), expected)
+        certain = [text for text in expected if not isinstance(text, Perhaps)]
+        heard = self.session.heard(len(certain))
+        self.assertEqual(heard, certain if len(heard) == len(certain) else expected)
 
     def press(self, key, *parts):
         self.session.press(key)
@@ -117,10 +128,11 @@ class Lesson(unittest.TestCase):
 
     def expect_window(self, title, *parts):
         """A window has opened by a key. Orca 48 gets keys beside the program and not before it: where it notices the
-        key only when the window is there, it takes the window for the one where it was, and does not say its name."""
+        key only when a modal window is there, it takes that for the one where it was, and does not say its name."""
         expected = [text for part in parts for text in part]
-        heard = self.session.heard(len(expected) + (1 if OLD else 0))
-        if OLD or heard[:1] == window(title):
+        always = OLD or not self.modal
+        heard = self.session.heard(len(expected) + (1 if always else 0))
+        if always or heard[:1] == window(title):
             self.assertEqual(heard[:1], window(title))
             heard = heard[1:]
         self.assertEqual(heard, expected)
@@ -150,14 +162,15 @@ class Lesson(unittest.TestCase):
 
     def expect_input(self, title, prompt, offered):
         """An input box has opened by a key."""
-        self.session.wait_heard(f"{offered} seleccionado.")
+        box = editable_selected(prompt, offered) if offered else editable(prompt, "")
+        self.session.wait_heard(box[-1])
         heard = self.session.heard()
         if OLD and heard[:2] == selected(offered):
             heard = heard[2:]  # Qt selects the text before the box is there, and Orca may hear of that first
         if OLD or heard[:1] == [f"{title} diálogo"]:  # see expect_window
             self.assertEqual(heard[:1], [f"{title} diálogo." if OLD else f"{title} diálogo"])
             heard = heard[1:]
-        self.assertEqual(heard, editable_selected(prompt, offered))
+        self.assertEqual(heard, box)
 
     def press_return_for_box(self, title, text):
         """Presses Enter, which opens a message box."""

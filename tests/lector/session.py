@@ -222,7 +222,7 @@ class Session:
         return texts
 
     def _speaking(self, lines):
-        return bool(lines) and lines[-1].startswith("START ") and time.monotonic() - self.transcript.stat().st_mtime < 3
+        return bool(lines) and lines[-1].startswith("START ") and time.time() - self.transcript.stat().st_mtime < 3
 
     def _end(self, child):
         if child.poll() is None:

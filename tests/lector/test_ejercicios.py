@@ -31,6 +31,7 @@ class ExerciseLesson(Lesson):
 
 
 class Cantidad(ExerciseLesson):
+    modal = True
     name, title = "Fracción de una cantidad", "Fracción de una cantidad"
     reading = r"(\w+) (\w+?)s?  de (\w+(?: y \w+)?)"
 
@@ -88,6 +89,7 @@ class Cantidad(ExerciseLesson):
 
 
 class Representacion(ExerciseLesson):
+    modal = True
     name, title = "Representación gráfica", "Representación gráfica de fracciones"
     reading = r"(\w+) (\w+?)(s?)"
 
@@ -135,6 +137,7 @@ class Representacion(ExerciseLesson):
 
 
 class Fichas(ExerciseLesson):
+    modal = True
     name, title = "Expresa con fracciones", "Expresa con fracciones"
     reading = r"Rojas: (\d+); Amarillas: (\d+); Verdes: (\d+); Total: (\d+)\."
     frames = ["ROJO", "AMARILLO", "VERDE"]
@@ -168,6 +171,167 @@ class Fichas(ExerciseLesson):
         self.press("Tab", button("Ver solución"))
         self.press("Tab", button("ficha roja 1"))
         self.exchange("alt+c", self.reading, group("ROJO"), editable(self.boxes[0], ""))
+        self.press("alt+F4", window_again("KELVORA"), button(self.name))
+
+
+class Ordenar(ExerciseLesson):
+    name, title = "Ordenar fracciones", "Ordenar fracciones"
+
+    def first_stop(self):
+        return locked("Instrucciones", "Ordena estas fracciones de menor a mayor")
+
+    def hear_fraction(self):
+        """Goes on to the next fraction; its words, numerator and denominator."""
+        self.session.press("Tab")
+        words = self.session.heard(1)[0]
+        numerator, part = re.match(r"(\w+) (\w+?)s? botón", words).groups()
+        words = words[:words.index(" botón")]
+        self.assertEqual(button(words), [words + button("")[0]])
+        return words, CARDINALS.index(numerator), PARTS.index(part)
+
+    def test_a_lesson(self):
+        self.open_screen(PROGRAM, self.name, "Instrucciones")
+        self.expect_window(self.title, self.first_stop())
+        row = [self.hear_fraction() for _ in range(4)]
+        self.press("alt+h", button(row[0][0]), said("Resultado incorrecto"))
+
+        # Each fraction that is smaller than the one to its left is moved there, and what stands there then is heard.
+        for _ in range(3):
+            for i in range(1, 4):
+                self.press("Tab", button(row[i][0]))
+                if row[i][1] * row[i - 1][2] < row[i - 1][1] * row[i][2]:
+                    row[i - 1], row[i] = row[i], row[i - 1]
+                    self.press("Return", renamed(row[i][0]))
+            for i in (2, 1, 0):
+                self.press("shift+Tab", button(row[i][0]))
+        self.press("alt+h", button("Continuar"), said(" Resultado correcto"))
+        # The first fraction of the next exercise. Orca 48 hears of its new name and of the focus, and may begin it twice.
+        self.session.press("Return")
+        heard = self.session.heard(1)
+        self.assertRegex(heard[-1], r"^\w+( y \w+)? \w+ botón")
+        self.assertIn([text.removesuffix(" [cut]") for text in heard[:-1]], [[]] if OLD else [[], heard[-1:]])
+        self.press("alt+F4", window_again("KELVORA"), button(self.name))
+
+
+class Conversion(ExerciseLesson):
+    name, title = "Conversión al mismo denominador", "Convertir a común denominador"
+    boxes = [f"{part} de la {which} fracción" for which in ("primera", "segunda") for part in ("Numerador", "Denominador")]
+
+    def test_a_lesson(self):
+        self.open_screen(PROGRAM, self.name, "Instrucciones")
+        self.expect_window(self.title, locked("Instrucciones", "Convierte estas fracciones al mismo denominador."))
+        given = []
+        for i, box in enumerate(self.boxes):
+            self.session.press("Tab")
+            heard = self.session.heard(3 if i == 0 else 2)
+            given.append(int(heard[-1].removesuffix(".")))
+            self.assertEqual(heard, (group("Iniciales") if i == 0 else []) + locked(f"{box} inicial", f"{given[-1]}"))
+        a, b, c, d = given
+        for i, box in enumerate(self.boxes):
+            self.press("Tab", group("Intermedios") if i == 0 else [], editable(f"{box} intermedia", ""))
+        self.press("alt+h", button("Hecho"), said("Resultado incorrecto"))
+        self.press("Return", said("Resultado incorrecto"))  # the same words again
+        for i in (3, 2, 1, 0):
+            self.press("shift+Tab", group("Finales") if i == 3 else [], editable(f"{self.boxes[i]} final", ""))
+        for i, value in enumerate((a * d, b * d, c * b, b * d)):
+            if i > 0:
+                self.press("Tab", editable(f"{self.boxes[i]} final", ""))
+            self.type(f"{value}")
+        self.press("alt+h", button("Continuar"), said("Resultado correcto"))
+        self.press("alt+F4", window_again("KELVORA"), button(self.name))
+
+
+class Series(ExerciseLesson):
+    name, title = "Completa la serie", "Completa la serie"
+
+    def test_a_lesson(self):
+        self.open_screen(PROGRAM, self.name, "Instrucciones")
+        self.expect_window(self.title, locked("Instrucciones", "Completa la serie"))
+        above, below = [], []
+        for term in range(1, 5):
+            for part, values in (("Numerador", above), ("Denominador", below)):
+                self.session.press("Tab")
+                heard = self.session.heard(2)
+                values.append(int(heard[-1].removesuffix(".")))
+                self.assertEqual(heard, editable(f"{part} del término {term}", f"{values[-1]}"))
+        self.press("7", echo("7"), said(f"{below[3]}"))  # a term that is given stays
+        self.press("Tab", editable("Numerador del término 5", ""))
+        self.press("Return", said("Respuesta incorrecta"))
+        self.type(f"{2 * above[3] - above[2]}")
+        self.press("Tab", editable("Denominador del término 5", ""))
+        self.type(f"{2 * below[3] - below[2]}")
+        self.press("Return", button("Continuar"), said("Respuesta correcta"))
+        self.press("Return", editable("Numerador del término 5", ""))
+        self.press("alt+F4", window_again("KELVORA"), button(self.name))
+
+
+class Factores(ExerciseLesson):
+    name, title = "Descomposición en factores primos", "DESCOMPOSICIÓN EN FACTORES PRIMOS"
+    empty_row = "     |    "
+
+    def ladder(self, row):
+        return ["Escalera texto.", row]
+
+    def hear_value(self):
+        """Goes on to the value; what it is."""
+        self.session.press("Tab")
+        heard = self.session.heard(2)
+        value = heard[-1].removesuffix(" seleccionado.")
+        self.assertEqual(heard, editable_selected("Valor", value))
+        return int(value)
+
+    def go(self, key, times):
+        """Steps from character to character, hearing each."""
+        for _ in range(times):
+            self.session.press(key)
+            self.session.heard(1 if OLD else 0)
+
+    def write_divisors(self, divisors):
+        """Writes them below each other, from the caret on, hearing each row whole."""
+        for divisor in divisors:
+            self.type(f"{divisor}")
+            self.press("Down", [self.empty_row])
+            self.go("Left", len(f"{divisor}"))
+
+    def test_a_lesson(self):
+        self.open_screen(PROGRAM, self.name, "Instrucciones")
+        self.expect_window(self.title, locked("Instrucciones", "Realiza la descomposición en factores primos"))
+        value = self.hear_value()
+        while value == 1:  # which an empty ladder solves
+            self.press("alt+c", self.ladder(self.empty_row))
+            self.session.press("shift+Tab", "shift+Tab")
+            self.session.heard()
+            value = self.hear_value()
+        self.press("Tab", self.ladder(self.empty_row))
+
+        self.press("Tab", locked("Factores primos", ""))
+        self.press("Tab", button("Hecho"))
+        self.press_return_for_box("Kelvora", f"El producto de los factores calculados (1 es distinto del valor inicial "
+                                  f"({value})")
+        self.press("Return", window_again(self.title), button("Hecho"), said("Resultado incorrecto"))
+
+        # A bar stays, and what is refused says the row as it is.
+        self.press("alt+b", self.ladder(self.empty_row))
+        self.type(f"{value}")
+        self.go("Right", 5 - len(f"{value}"))
+        self.press("6", echo("6"), said(f"{value:<5}|    "))
+        self.go("Right", 1)
+        divisors, rest = [], value
+        while rest > 1:
+            divisors.append(next(d for d in range(2, rest + 1) if rest % d == 0))
+            rest //= divisors[-1]
+        self.write_divisors(divisors)
+        self.press("ctrl+Home", [f"{value:<5}|{divisors[0]:<4}"])
+        self.press("Tab", locked("Factores primos", " * ".join(str(d) for d in divisors) + " "))
+        self.press("alt+h", button("Continuar"), said("Resultado correcto"))
+
+        self.press("Return", self.ladder(self.empty_row))
+        self.session.press("F2")
+        self.expect_input("Introducir valor", "Introduzca valor a descomponer: ", "")
+        self.type("12")
+        self.press("Return", window_again(self.title), self.ladder(self.empty_row))
+        self.press("alt+v", said("Escalera 12|2"))  # where the focus was before
+        self.press("Tab", locked_selected("Factores primos", "2 * 2 * 3 "))
         self.press("alt+F4", window_again("KELVORA"), button(self.name))
 
 

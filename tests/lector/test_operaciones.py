@@ -189,6 +189,7 @@ class Diferencia(OperationLesson):
 
 
 class Producto(OperationLesson):
+    modal = True
     name, title, sign = "Producto de fracciones", "PRODUCTO DE FRACCIONES", " por "
 
     def test_a_lesson(self):
@@ -223,6 +224,7 @@ class Producto(OperationLesson):
 
 
 class Cociente(OperationLesson):
+    modal = True
     name, title, sign = "Cociente de fracciones", "COCIENTE DE FRACCIONES", "÷"
     alternates = False
 

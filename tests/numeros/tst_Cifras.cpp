@@ -44,6 +44,14 @@ private slots:
         QCOMPARE(numeros::EnCifras(16383.5, 5, ","), "16383");
         QCOMPARE(numeros::EnCifras(1638.5, 5, ","), "1638,");
     }
+
+    void a_number_stands_at_the_right_of_its_places()
+    {
+        QCOMPARE(numeros::Alineado(7, 3), "  7");
+        QCOMPARE(numeros::Alineado(-7, 3), " -7");
+        QCOMPARE(numeros::Alineado(1000, 3), "1000");
+        QCOMPARE(numeros::Alineado(7, 0), "7");
+    }
 };
 
 QTEST_APPLESS_MAIN(tst_Cifras)

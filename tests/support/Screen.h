@@ -72,6 +72,22 @@ protected:
         QCOMPARE(face("Command2(2)"), QColor(255, 0, 0));
     }
 
+    // Screens that take their seed from the timer open with different exercises.
+    template <class Create, class Read>
+    void VerifySeedOfTheTimer(Create create, Read read)
+    {
+        ui::FixSeed({});
+        const auto first = read();
+        for (int tries = 0; tries < 20; ++tries) {
+            CloseScreen();
+            OpenScreen(create());
+            if (read() != first) {
+                return;
+            }
+        }
+        QFAIL("every opening brings the same exercise");
+    }
+
     // Two screens that take their seed from the time of day draw the same first exercise within one second. The clock
     // is watched until none passes between.
     template <class Create, class Read>

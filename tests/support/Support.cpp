@@ -1,6 +1,7 @@
 #include "Support.h"
 
 #include "Application.h"
+#include "Bell.h"
 
 #include <QDialog>
 #include <QPointer>
@@ -13,13 +14,19 @@
 namespace support {
 
 QStringList Ear::s_heard;
+QStringList Ear::s_active;
+
+void SetReader(bool on)
+{
+    // No public call says so.
+    QGuiApplicationPrivate::platformIntegration()->accessibility()->setActive(on);
+}
 
 int Run(QObject& test, int argc, char** argv)
 {
     ui::Application application(argc, argv);
     ui::Application::setQuitOnLastWindowClosed(false);
-    // No public call says that there is a screen reader.
-    QGuiApplicationPrivate::platformIntegration()->accessibility()->setActive(true);
+    SetReader(true);
     return QTest::qExec(&test, argc, argv);
 }
 
@@ -27,12 +34,15 @@ Ear::Ear()
 {
     Settle();
     s_heard.clear();
+    s_active.clear();
     QAccessible::installUpdateHandler(Hear);
+    ui::ReplaceBell([] { s_heard += "BEEP"; });
 }
 
 Ear::~Ear()
 {
     QAccessible::installUpdateHandler(nullptr);
+    ui::ReplaceBell({});
 }
 
 QStringList Ear::Take()
@@ -41,6 +51,12 @@ QStringList Ear::Take()
     QCoreApplication::postEvent(qApp, new QEvent(QEvent::User));
     Settle();
     return std::exchange(s_heard, {});
+}
+
+bool Ear::TakeActive(const QWidget& window)
+{
+    Settle();
+    return std::exchange(s_active, {}).contains(window.objectName());
 }
 
 QStringList Ear::TakeSaid()
@@ -58,6 +74,10 @@ void Ear::Hear(QAccessibleEvent* event)
 {
     if (event->type() == QAccessible::Focus && event->object() != nullptr) {
         s_heard += "FOCUS " + event->object()->objectName();
+    }
+    if (event->type() == QAccessible::StateChanged &&
+        static_cast<QAccessibleStateChangeEvent*>(event)->changedStates().active != 0) {
+        s_active += event->object()->objectName();
     }
 #if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
     if (event->type() == QAccessible::Announcement) {

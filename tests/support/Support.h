@@ -12,11 +12,14 @@
 
 namespace support {
 
+// Has a screen reader on the desktop, or none.
+void SetReader(bool on);
+
 // Runs the cases of `test` in the program's application, on a desktop with a screen reader.
 int Run(QObject& test, int argc, char** argv);
 
 // Records, while it lives, what a screen reader is told: "FOCUS name" when the focus moves, "SAY text" for
-// announcements.
+// announcements; and the bell: "BEEP".
 class Ear
 {
 public:
@@ -24,6 +27,9 @@ public:
     ~Ear();
     Ear(const Ear&) = delete;
     Ear& operator=(const Ear&) = delete;
+
+    // Whether the reader was told since the last call that `window` is the active one.
+    bool TakeActive(const QWidget& window);
 
     // All that was told since the last call, once everything pending has been handled.
     QStringList Take();
@@ -35,6 +41,7 @@ private:
     static void Hear(QAccessibleEvent* event);
 
     static QStringList s_heard;
+    static QStringList s_active;
 };
 
 // Handles everything that is pending.

@@ -27,6 +27,20 @@ private slots:
                    });
     }
 
+    void an_enter_that_is_held_down_does_not_answer_a_box()
+    {
+        const auto hold = [](QWidget& dialog, QWidget& focus) {
+            QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r", true);
+            QCoreApplication::sendEvent(&focus, &held);
+            QVERIFY(dialog.isVisible());
+            QTest::keyClick(&focus, Qt::Key_Return);
+        };
+        WithDialog([] { ui::MsgBox("Texto"); },
+                   [hold](QWidget& dialog) { hold(dialog, *dialog.findChild<QPushButton*>()); });
+        WithDialog([] { ui::InputBox("Introduzca la cantidad:", "Introducir cantidad"); },
+                   [hold](QWidget& dialog) { hold(dialog, *dialog.findChild<QLineEdit*>()); });
+    }
+
     void without_a_title_it_bears_the_applications_name()
     {
         WithDialog([] { ui::MsgBox("Texto"); },

@@ -53,6 +53,16 @@ private slots:
         QCOMPARE(m_form->ActiveControl()->Index(), 1);
     }
 
+    void a_screen_reader_that_comes_late_is_told_where_the_focus_is()
+    {
+        SetReader(false);
+        Open();
+        Ear ear;
+        SetReader(true);
+        QVERIFY(ear.TakeActive(*m_form));
+        QCOMPARE(ear.Take(), QStringList("FOCUS Text1(1)"));
+    }
+
     void loading_may_put_the_focus_elsewhere()
     {
         m_form->OnLoad = [this] { m_form->The<ui::Button>("CbUno").SetFocus(); };

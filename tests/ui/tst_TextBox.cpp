@@ -256,6 +256,70 @@ private slots:
         QCOMPARE(Editable().SelLength(), 0); // gone with the pupil
     }
 
+    void its_focus_handlers_run_when_the_focus_moves_and_not_for_a_menu_or_a_window()
+    {
+        QStringList ran;
+        Editable().OnGotFocus = [&ran](int Index) { ran += QString("got %1").arg(Index); };
+        Editable().OnValidate = [&ran](int Index) { ran += QString("left %1").arg(Index); };
+        Locked().SetFocus();
+        Editable().SetFocus();
+        QCOMPARE(ran, QStringList("got 0"));
+        for (const Qt::FocusReason reason :
+             {Qt::PopupFocusReason, Qt::ActiveWindowFocusReason, Qt::MenuBarFocusReason}) {
+            QFocusEvent out(QEvent::FocusOut, reason);
+            QCoreApplication::sendEvent(&Editable().Widget(), &out);
+            QFocusEvent in(QEvent::FocusIn, reason);
+            QCoreApplication::sendEvent(&Editable().Widget(), &in);
+        }
+        QCOMPARE(ran, QStringList("got 0"));
+        Press(Qt::Key_Tab);
+        QCOMPARE(ran, QStringList({"got 0", "left 0"}));
+    }
+
+    void what_its_focus_handlers_change_is_not_told_before_the_focus()
+    {
+        static QList<int> told;
+        Editable().OnValidate = [this](int) { Lines().Text("nuevo"); };
+        Lines().OnGotFocus = [this](int) { Lines().SelectAll(); };
+        Editable().SetFocus();
+        Settle();
+        const auto previous =
+            QAccessible::installUpdateHandler([](QAccessibleEvent* event) { told += int(event->type()); });
+        Press(Qt::Key_Tab);
+        QAccessible::installUpdateHandler(previous);
+        QCOMPARE(Focus(), "TbDesco");
+        QVERIFY(told.contains(int(QAccessible::Focus)));
+        for (const auto type : {QAccessible::TextInserted, QAccessible::TextRemoved, QAccessible::TextUpdated,
+                                QAccessible::TextCaretMoved, QAccessible::TextSelectionChanged}) {
+            QVERIFY(!told.contains(int(type)) || told.indexOf(int(type)) > told.indexOf(int(QAccessible::Focus)));
+        }
+    }
+
+    void committed_text_is_typed_but_for_what_its_handler_keeps()
+    {
+        Editable().Text("");
+        Editable().SetFocus();
+        Editable().OnKeyPress = [](int, int KeyAscii) { return KeyAscii == 'b' ? KeyResult::Swallow : KeyResult::Pass; };
+        QInputMethodEvent commit;
+        commit.setCommitString("abc");
+        QCoreApplication::sendEvent(&Editable().Widget(), &commit);
+        QCOMPARE(Editable().Text(), std::string("ac"));
+    }
+
+    void what_is_refused_beeps_and_says_the_line_of_the_caret()
+    {
+        Ear ear;
+        Lines().SetFocus();
+        Lines().Select(3, 0);
+        ear.Take();
+        Lines().Refuse();
+        QCOMPARE(ear.Take(), QStringList({"BEEP", "SAY b"}));
+        Editable().SetFocus();
+        ear.Take();
+        Editable().Refuse();
+        QCOMPARE(ear.Take(), QStringList({"BEEP", "SAY uno"}));
+    }
+
     void a_menu_or_another_window_leaves_the_selection_alone()
     {
         Editable().SetFocus();
