@@ -17,6 +17,10 @@ function(kelvora_warnings target)
     endif()
 endfunction()
 
+# A screen of the size that school computers have, without a display.
+set(KELVORA_TEST_SCREEN
+    "QT_QPA_PLATFORM=offscreen:configfile=${PROJECT_SOURCE_DIR}/tests/support/screen.json;QT_STYLE_OVERRIDE=Fusion")
+
 # A Qt Test executable of one source file, run without a display. It links the libraries that it tests and no others.
 function(kelvora_test name)
     cmake_parse_arguments(ARG "" "" "LINK" ${ARGN})
@@ -28,7 +32,7 @@ function(kelvora_test name)
     set_tests_properties(${name} PROPERTIES
         TIMEOUT 300
         LABELS inprocess
-        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QT_FONT_DPI=96;QT_STYLE_OVERRIDE=Fusion;LC_ALL=C.UTF-8")
+        ENVIRONMENT "${KELVORA_TEST_SCREEN};QT_FONT_DPI=96;LC_ALL=C.UTF-8")
 endfunction()
 
 # A test that a header of another folder cannot be included from this one.

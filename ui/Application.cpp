@@ -3,6 +3,7 @@
 #include "Accessible.h"
 #include "Dialogs.h"
 #include "Entero16.h"
+#include "Look.h"
 
 #include <QKeyEvent>
 #include <QLibraryInfo>
@@ -24,6 +25,16 @@ Application::Application(int& argc, char** argv) : QApplication(argc, argv)
         installTranslator(&m_translator);
     }
     SetUpAccessibility();
+    MakeSelectionLegible();
+}
+
+bool Application::event(QEvent* event)
+{
+    const bool handled = QApplication::event(event);
+    if (event->type() == QEvent::ApplicationPaletteChange) {
+        MakeSelectionLegible();
+    }
+    return handled;
 }
 
 bool Application::notify(QObject* receiver, QEvent* event)
@@ -48,6 +59,18 @@ bool Application::notify(QObject* receiver, QEvent* event)
         m_announcer.EventEnded(type);
     }
     return handled;
+}
+
+// Most themes have white type on a light blue that it can hardly be read on.
+void Application::MakeSelectionLegible()
+{
+    QPalette colors = palette();
+    const QColor type = colors.color(QPalette::HighlightedText);
+    const QColor legible = ReadableOn(colors.color(QPalette::Highlight), type);
+    if (legible != type) {
+        colors.setColor(QPalette::HighlightedText, legible);
+        setPalette(colors);
+    }
 }
 
 // With a screen reader on, Qt asks it about each key press and delivers the key again later, but access keys at once:

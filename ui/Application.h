@@ -18,7 +18,11 @@ public:
 
     bool notify(QObject* receiver, QEvent* event) override;
 
+protected:
+    bool event(QEvent* event) override;
+
 private:
+    void MakeSelectionLegible();
     bool IsLateAlt(const QEvent& event);
 
     bool m_altIsFresh = false;

@@ -48,8 +48,11 @@ void Control::Scale(double scale, const QPoint& origin)
 
 void Control::PutInPlace()
 {
-    const QRect place = ToPixels(m_place, m_scale);
-    m_widget.setGeometry(place.translated(m_origin));
+    QRect place = ToPixels(m_place, m_scale).translated(m_origin);
+    if (!m_design.inside.empty()) { // edges rounded from another origin may be a pixel outside
+        place &= m_widget.parentWidget()->rect();
+    }
+    m_widget.setGeometry(place);
     m_widget.setFont(Font());
     if (m_design.coveredTop != 0 || m_design.coveredBottom != 0) {
         const int top = ToPixels({0, 0, 0, m_design.coveredTop}, m_scale).height();

@@ -26,7 +26,7 @@ void EditWidget::PaintEdge(QPainter& painter, const QRect& area, const QPalette&
 {
     const int width = focused ? 2 : 1;
     const int inset = width / 2;
-    QColor edge = colors.color(QPalette::WindowText);
+    QColor edge = colors.color(QPalette::Text);
     edge.setAlphaF(locked && !focused ? 0.35F : 1.0F);
     painter.setPen(QPen(edge, width, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
     painter.drawRect(area.adjusted(inset, inset, -1, -1));

@@ -5,8 +5,10 @@
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <QLayout>
 #include <QMenuBar>
 #include <QScreen>
+#include <QStyle>
 
 #include <algorithm>
 
@@ -70,12 +72,15 @@ void Form::Open(Modality modality)
     if (focusWidget() == nullptr && first != m_tabStops.end()) {
         (*first)->setFocus();
     }
+    constexpr int frame = 4; // pixels at the sides and below; what the desktop really adds is known too late
     const QSize wanted = ToPixels({0, 0, m_design.width, m_design.height}, 1).size();
     centralWidget()->setFixedSize(wanted); // so that the window becomes this size and its menu bar
     adjustSize();
     centralWidget()->setMinimumSize(1, 1);
     centralWidget()->setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
-    resize(size().boundedTo(screen()->availableSize()));
+    layout()->activate(); // or the window could not be smaller yet
+    resize(size().boundedTo(screen()->availableSize() -
+                            QSize(2 * frame, style()->pixelMetric(QStyle::PM_TitleBarHeight) + frame)));
     show();
 }
 
@@ -126,8 +131,8 @@ bool Form::eventFilter(QObject* watched, QEvent* event)
     // A key that a box in a frame leaves alone comes to the frame too, and is none of the frame's.
     Control* control = watched == focusWidget() ? ControlOf(watched) : nullptr;
     if (Control* other = ControlOf(watched); other != nullptr && IsFocusMove(*event)) {
-        // The reader learns of the focus first: a box that is told of before is taken for the one in focus, and its focus
-        // for no news.
+        // The reader learns of the focus first: a box that is told of before is taken for the one in focus, and its
+        // focus for no news.
         Silently([&] { event->type() == QEvent::FocusIn ? other->GotFocus() : other->Validate(); });
     }
     KeyResult result = KeyResult::Pass;

@@ -1,6 +1,6 @@
 // A pupil who drives a number out of its range: by answering wrongly once more than the counters can count, or with a
-// quantity and a numerator of one's own, or by divisors whose product is too large. Prints the score before and after, and the message that ends the program; its
-// exit status is the program's.
+// quantity and a numerator of one's own, or by divisors whose product is too large. Prints the score before and after,
+// and the message that ends the program; its exit status is the program's.
 #include "Application.h"
 #include "Form2.h"
 #include "FormCantidad.h"

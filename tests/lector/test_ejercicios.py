@@ -31,7 +31,6 @@ class ExerciseLesson(Lesson):
 
 
 class Cantidad(ExerciseLesson):
-    modal = True
     name, title = "Fracción de una cantidad", "Fracción de una cantidad"
     reading = r"(\w+) (\w+?)s?  de (\w+(?: y \w+)?)"
 
@@ -89,7 +88,6 @@ class Cantidad(ExerciseLesson):
 
 
 class Representacion(ExerciseLesson):
-    modal = True
     name, title = "Representación gráfica", "Representación gráfica de fracciones"
     reading = r"(\w+) (\w+?)(s?)"
 
@@ -137,7 +135,6 @@ class Representacion(ExerciseLesson):
 
 
 class Fichas(ExerciseLesson):
-    modal = True
     name, title = "Expresa con fracciones", "Expresa con fracciones"
     reading = r"Rojas: (\d+); Amarillas: (\d+); Verdes: (\d+); Total: (\d+)\."
     frames = ["ROJO", "AMARILLO", "VERDE"]
@@ -207,9 +204,9 @@ class Ordenar(ExerciseLesson):
         self.press("alt+h", button("Continuar"), said(" Resultado correcto"))
         # The first fraction of the next exercise. Orca 48 hears of its new name and of the focus, and may begin it twice.
         self.session.press("Return")
-        heard = self.session.heard(1)
+        heard = [text.removesuffix(" [cut]") for text in self.session.heard(1)]
         self.assertRegex(heard[-1], r"^\w+( y \w+)? \w+ botón")
-        self.assertIn([text.removesuffix(" [cut]") for text in heard[:-1]], [[]] if OLD else [[], heard[-1:]])
+        self.assertIn(heard[:-1], [[]] if OLD else [[], heard[-1:]])
         self.press("alt+F4", window_again("KELVORA"), button(self.name))
 
 
@@ -321,7 +318,8 @@ class Factores(ExerciseLesson):
             divisors.append(next(d for d in range(2, rest + 1) if rest % d == 0))
             rest //= divisors[-1]
         self.write_divisors(divisors)
-        self.press("ctrl+Home", [f"{value:<5}|{divisors[0]:<4}"])
+        for row in [f"     |{divisor:<4}" for divisor in reversed(divisors[1:])] + [f"{value:<5}|{divisors[0]:<4}"]:
+            self.press("Up", [row])
         self.press("Tab", locked("Factores primos", " * ".join(str(d) for d in divisors) + " "))
         self.press("alt+h", button("Continuar"), said("Resultado correcto"))
 

@@ -96,7 +96,7 @@ class Suma(OperationLesson):
         self.press("shift+Tab", editable("Numerador del resultado", "1"))
 
         # The right one; the verdict is heard on "Continuar", and Enter there brings the next exercise.
-        self.press("alt+b")  # nothing to say: the focus is where it was, and the boxes are empty
+        self.press("alt+b", said("Numerador del resultado"))  # where the focus was before
         self.answer(total, self.d1)
         self.press("F3", self.says_operation(fraction(total, self.d1)))
         self.press("shift+Tab", editable("Numerador del resultado", f"{total}"))
@@ -189,7 +189,6 @@ class Diferencia(OperationLesson):
 
 
 class Producto(OperationLesson):
-    modal = True
     name, title, sign = "Producto de fracciones", "PRODUCTO DE FRACCIONES", " por "
 
     def test_a_lesson(self):
@@ -204,7 +203,7 @@ class Producto(OperationLesson):
         self.press("Return", editable("Numerador del resultado", "1"), said("Resultado incorrecto "))
         self.press("Return", said("Resultado incorrecto "))
         self.press("alt+h", said("Resultado incorrecto  "))  # the focus is back where it was
-        self.press("alt+b")
+        self.press("alt+b", said("Numerador del resultado"))
         self.answer(self.n1 * self.n2, self.d1 * self.d2)
         result = fraction(self.n1 * self.n2, self.d1 * self.d2)
         self.press("F3", self.says_operation(result))
@@ -224,7 +223,6 @@ class Producto(OperationLesson):
 
 
 class Cociente(OperationLesson):
-    modal = True
     name, title, sign = "Cociente de fracciones", "COCIENTE DE FRACCIONES", "÷"
     alternates = False
 

@@ -299,7 +299,9 @@ private slots:
     {
         Editable().Text("");
         Editable().SetFocus();
-        Editable().OnKeyPress = [](int, int KeyAscii) { return KeyAscii == 'b' ? KeyResult::Swallow : KeyResult::Pass; };
+        Editable().OnKeyPress = [](int, int KeyAscii) {
+            return KeyAscii == 'b' ? KeyResult::Swallow : KeyResult::Pass;
+        };
         QInputMethodEvent commit;
         commit.setCommitString("abc");
         QCoreApplication::sendEvent(&Editable().Widget(), &commit);

@@ -1,0 +1,468 @@
+// What holds in all twelve windows.
+#include "Screen.h"
+#include "Windows.h"
+
+#include <QFrame>
+#include <QGroupBox>
+#include <QLabel>
+#include <QMenuBar>
+#include <QPlainTextEdit>
+#include <QStyle>
+
+#include <algorithm>
+#include <cmath>
+
+using namespace support;
+
+namespace {
+
+// The boxes that a pupil can type into.
+const QMap<QString, QStringList> editables{
+    {"Form1", {}},
+    {"Form2", {"Text1(4)", "Text1(5)"}},
+    {"FormDiferencia", {"Text1(4)", "Text1(5)"}},
+    {"FormProducto", {"Text1(4)", "Text1(5)"}},
+    {"FormCociente", {"Text1(4)", "Text1(5)"}},
+    {"FormConversion",
+     {"TBFin(0)", "TBFin(1)", "TBFin(2)", "TBFin(3)", "TBMedi(0)", "TBMedi(1)", "TBMedi(2)", "TBMedi(3)"}},
+    {"FormOrdenar", {}},
+    {"FormFactores", {"TbDesco", "TbValor", "Text1"}},
+    {"FormCantidad", {"Text6"}},
+    {"FormFichas", {"TBFrac(0)", "TBFrac(1)", "TBFrac(2)", "TBFrac(3)", "TBFrac(4)", "TBFrac(5)"}},
+    {"FormRepresentacion", {"Text4(0)"}},
+    {"FormSeries",
+     {"Text1(0)", "Text1(1)", "Text1(2)", "Text1(3)", "Text1(4)", "Text1(5)", "Text1(6)", "Text1(7)", "Text2(0)",
+      "Text2(1)", "Text2(2)", "Text2(3)", "Text2(4)", "Text2(5)", "Text2(6)", "Text2(7)"}},
+};
+
+QPalette Light()
+{
+    return QApplication::style()->standardPalette();
+}
+
+QPalette Themed(const QColor& window, const QColor& base, const QColor& text, const QColor& highlight)
+{
+    QPalette theme(text, window, window.lighter(), window.darker(), window, text, text, base, window);
+    theme.setColor(QPalette::Highlight, highlight);
+    theme.setColor(QPalette::HighlightedText, text);
+    return theme;
+}
+
+const QList<std::pair<QString, QPalette (*)()>> themes{
+    {"light", Light},
+    {"dark", [] { return Themed(QColor(53, 53, 53), QColor(35, 35, 35), Qt::white, QColor(42, 130, 218)); }},
+    {"high contrast", [] { return Themed(Qt::black, Qt::black, Qt::white, QColor(26, 235, 255)); }},
+    {"breeze", [] { return Themed(QColor(239, 240, 241), Qt::white, QColor(35, 38, 41), QColor(61, 174, 233)); }},
+};
+
+QString NameOf(const QWidget& widget)
+{
+    return QAccessible::queryAccessibleInterface(const_cast<QWidget*>(&widget))->text(QAccessible::Name);
+}
+
+// The colour of most pixels of an image.
+QRgb Background(const QImage& image)
+{
+    QHash<QRgb, int> count;
+    QRgb most = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            const QRgb pixel = image.pixel(x, y);
+            if (++count[pixel] > count[most]) {
+                most = pixel;
+            }
+        }
+    }
+    return most;
+}
+
+// The contrast of the text, which fills the image, to its background: that of the pixels that differ most.
+double TextContrast(const QImage& image)
+{
+    const QColor background = Background(image);
+    double contrast = 1;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            contrast = std::max(contrast, ui::Contrast(image.pixelColor(x, y), background));
+        }
+    }
+    return contrast;
+}
+
+// Without the edges.
+QImage Inside(QWidget& widget)
+{
+    const QRect area = widget.mask().isEmpty() ? widget.rect() : widget.mask().boundingRect();
+    return widget.grab(area.adjusted(4, 4, -4, -4)).toImage();
+}
+
+} // namespace
+
+class tst_Windows : public QObject, private Screen
+{
+    Q_OBJECT
+
+private:
+    void EachWindow() const
+    {
+        QTest::addColumn<QString>("window");
+        for (const Window& window : windows) {
+            QTest::addRow("%s", window.name) << QString(window.name);
+        }
+    }
+
+    void EachWindowInEachTheme() const
+    {
+        QTest::addColumn<QString>("window");
+        QTest::addColumn<QPalette>("theme");
+        for (const auto& [name, theme] : themes) {
+            for (const Window& window : windows) {
+                QTest::addRow("%s, %s", window.name, qPrintable(name)) << QString(window.name) << theme();
+            }
+        }
+    }
+
+    void OpenIt()
+    {
+        QFETCH(QString, window);
+        OpenScreen(std::ranges::find(windows, window, &Window::name)->make());
+    }
+
+    // What Tab stops at, in that order.
+    QList<QWidget*> Stops() const
+    {
+        QList<QWidget*> stops;
+        for (QWidget* next = m_form->nextInFocusChain(); next != m_form; next = next->nextInFocusChain()) {
+            if ((next->focusPolicy() & Qt::TabFocus) != 0 && next->isVisible() && next->isEnabled()) {
+                stops += next;
+            }
+        }
+        return stops;
+    }
+
+    // Everything that the screen has placed.
+    QList<QWidget*> Placed() const
+    {
+        QList<QWidget*> placed = m_form->centralWidget()->findChildren<QWidget*>();
+        placed.removeIf([](const QWidget* widget) {
+            return widget->objectName().isEmpty() || widget->objectName().startsWith("qt_");
+        });
+        return placed;
+    }
+
+    // A short text in every box that is empty.
+    void Fill() const
+    {
+        for (QLineEdit* box : m_form->findChildren<QLineEdit*>()) {
+            if (box->text().isEmpty()) {
+                box->setText("Resultado");
+                box->setCursorPosition(0);
+            }
+        }
+    }
+
+    void ResizeInside(const QSize& size) const
+    {
+        const QSize around = m_form->size() - m_form->centralWidget()->size();
+        m_form->resize(size + around);
+        Settle();
+        QCOMPARE(m_form->centralWidget()->size(), size);
+    }
+
+    // Whether all that is written in the window can be seen whole.
+    void VerifyNothingClipped() const
+    {
+        for (QWidget* widget : Placed()) {
+            if (!widget->isVisible()) {
+                continue;
+            }
+            const QRect whole(QPoint(), widget->parentWidget()->size());
+            QVERIFY2(whole.contains(widget->geometry()), qPrintable(widget->objectName()));
+            QString text;
+            QSize room = (widget->mask().isEmpty() ? widget->rect() : widget->mask().boundingRect()).size();
+            int flags = Qt::TextWordWrap;
+            if (const auto* box = qobject_cast<QLineEdit*>(widget)) {
+                text = box->text();
+                // Of a long text in a box that is typed into, or has the focus, the caret leads to the rest.
+                flags = box->isReadOnly() && !box->hasFocus() ? Qt::TextWordWrap : Qt::TextSingleLine;
+            } else if (const auto* button = qobject_cast<QPushButton*>(widget)) {
+                text = button->text();
+                flags |= Qt::TextShowMnemonic;
+            } else if (const auto* label = qobject_cast<QLabel*>(widget)) {
+                text = label->text();
+                flags |= Qt::TextShowMnemonic;
+            } else if (const auto* lines = qobject_cast<QPlainTextEdit*>(widget)) {
+                text = lines->toPlainText().trimmed();
+                room = lines->viewport()->size();
+            }
+            if (text.isEmpty()) {
+                continue;
+            }
+            const QFont font = ui::Fitting(widget->font(), text, room, flags, 9);
+            const QSize needed = QFontMetrics(font).boundingRect(QRect(QPoint(), room), flags, text).size();
+            QVERIFY2(needed.width() <= room.width() && needed.height() <= room.height(),
+                     qPrintable(QString("%1: \"%2\" needs %3 x %4 of %5 x %6")
+                                    .arg(widget->objectName(), text)
+                                    .arg(needed.width())
+                                    .arg(needed.height())
+                                    .arg(room.width())
+                                    .arg(room.height())));
+        }
+    }
+
+private slots:
+    void init() { ui::FixSeed(7); }
+    void cleanup()
+    {
+        CloseScreen();
+        QApplication::setPalette(Light());
+    }
+
+    // For the ear
+
+    void every_stop_has_a_spanish_name_of_its_own_data() { EachWindow(); }
+    void every_stop_has_a_spanish_name_of_its_own()
+    {
+        OpenIt();
+        static const QRegularExpression english("\\b(button|text|label|edit|box|frame|panel|window|line)\\b",
+                                                QRegularExpression::CaseInsensitiveOption);
+        QStringList groups;
+        for (const QGroupBox* group : m_form->findChildren<QGroupBox*>()) {
+            groups += group->title();
+        }
+        QStringList names;
+        for (const QWidget* stop : Stops()) {
+            const QString name = NameOf(*stop);
+            QVERIFY2(!name.isEmpty() && !name.contains('&') && !name.contains('\n') && !name.contains(english) &&
+                         !groups.contains(name),
+                     qPrintable(stop->objectName() + ": " + name));
+            names += name;
+        }
+        QVERIFY(names.size() >= 8);
+        QCOMPARE(names.removeDuplicates(), 0);
+    }
+
+    void roles_are_those_of_windows_boxes_and_buttons_data() { EachWindow(); }
+    void roles_are_those_of_windows_boxes_and_buttons()
+    {
+        OpenIt();
+        const auto role = [](QWidget* widget) { return QAccessible::queryAccessibleInterface(widget)->role(); };
+        QCOMPARE(role(m_form), QAccessible::Window);
+        for (QWidget* widget : Placed()) {
+            if (qobject_cast<QLineEdit*>(widget) != nullptr || qobject_cast<QPlainTextEdit*>(widget) != nullptr) {
+                QCOMPARE(role(widget), QAccessible::EditableText);
+            } else if (qobject_cast<QPushButton*>(widget) != nullptr) {
+                QCOMPARE(role(widget), QAccessible::Button);
+            } else if (qobject_cast<QLabel*>(widget) != nullptr) {
+                QCOMPARE(role(widget), QAccessible::StaticText);
+            } else if (widget->objectName().startsWith("Line")) {
+                QCOMPARE(role(widget), QAccessible::Separator);
+            } else {
+                QCOMPARE(role(widget), QAccessible::Grouping);
+            }
+        }
+    }
+
+    void boxes_are_locked_but_for_those_that_wait_for_an_answer_data() { EachWindow(); }
+    void boxes_are_locked_but_for_those_that_wait_for_an_answer()
+    {
+        OpenIt();
+        QFETCH(QString, window);
+        QStringList open;
+        for (const QWidget* widget : Placed()) {
+            const auto* lines = qobject_cast<const QPlainTextEdit*>(widget);
+            const auto* box = qobject_cast<const QLineEdit*>(widget);
+            if ((box != nullptr && !box->isReadOnly()) || (lines != nullptr && !lines->isReadOnly())) {
+                open += widget->objectName();
+            }
+        }
+        open.sort();
+        QCOMPARE(open, editables[window]);
+    }
+
+    void tab_leads_round_and_back_data() { EachWindow(); }
+    void tab_leads_round_and_back()
+    {
+        OpenIt();
+        const QList<QWidget*> stops = Stops();
+        QCOMPARE(QApplication::focusWidget(), stops.front());
+        for (qsizetype i = 0; i < stops.size(); ++i) {
+            QCOMPARE(QApplication::focusWidget(), stops[i]);
+            Press(Qt::Key_Tab);
+        }
+        QCOMPARE(QApplication::focusWidget(), stops.front());
+        for (qsizetype i = stops.size() - 1; i >= 0; --i) {
+            Press(Qt::Key_Backtab, Qt::ShiftModifier);
+            QCOMPARE(QApplication::focusWidget(), stops[i]);
+        }
+    }
+
+    void targets_are_large_enough_data() { EachWindow(); }
+    void targets_are_large_enough()
+    {
+        OpenIt();
+        QFETCH(QString, window);
+        // What the given places leave below that: seven parts are strips of 22 pixels, and the buttons beside the
+        // tokens are 23 high.
+        const auto smallest = [this] {
+            int side = INT_MAX;
+            for (const QWidget* stop : Stops()) {
+                side = std::min({side, stop->width(), stop->height()});
+            }
+            return side;
+        };
+        if (window == "FormRepresentacion") {
+            for (int parts = 1; parts <= 10; ++parts) {
+                Child<QLineEdit>(*m_form, "Text4(0)").setText(QString::number(parts));
+                QVERIFY(parts == 7 ? smallest() == 22 : smallest() >= 24);
+            }
+        } else {
+            for (int exercise = 0; exercise < (window == "FormFichas" ? 200 : 1); ++exercise) {
+                QVERIFY2(smallest() >= (window == "FormFichas" ? 23 : 24), qPrintable(QString::number(smallest())));
+                if (window == "FormFichas") {
+                    Continue();
+                }
+            }
+        }
+    }
+
+    // For the eye
+
+    void a_window_that_grows_scales_everything_by_one_factor_data() { EachWindow(); }
+    void a_window_that_grows_scales_everything_by_one_factor()
+    {
+        OpenIt();
+        QFETCH(QString, window);
+        const QSize opening = m_form->centralWidget()->size();
+        QMap<QWidget*, QRect> places;
+        QMap<QWidget*, int> type;
+        for (QWidget* widget : Placed()) {
+            places[widget] = widget->geometry();
+            type[widget] = widget->font().pixelSize();
+        }
+        for (const auto& [wider, higher] : {std::pair(1.25, 1.25), std::pair(1.5, 2.5), std::pair(3.0, 1.5)}) {
+            const QSize size(std::lround(opening.width() * wider), std::lround(opening.height() * higher));
+            ResizeInside(size);
+            const double scale =
+                std::min(double(size.width()) / opening.width(), double(size.height()) / opening.height());
+            for (auto [widget, place] : places.asKeyValueRange()) {
+                const QRect seen = widget->geometry();
+                const bool onTop = widget->parentWidget() == m_form->centralWidget();
+                const double left = onTop ? (size.width() - opening.width() * scale) / 2 : 0;
+                const double top = onTop ? (size.height() - opening.height() * scale) / 2 : 0;
+                const auto near = [](double a, double b) { return std::abs(a - b) <= 2; }; // each edge is rounded twice
+                const bool inPlace =
+                    near(seen.left(), left + place.left() * scale) && near(seen.top(), top + place.top() * scale) &&
+                    near(seen.width(), place.width() * scale) && near(seen.height(), place.height() * scale);
+                QVERIFY2(inPlace || window == "Form1", qPrintable(widget->objectName())); // the menu has its own rule
+                QVERIFY2(widget->font().pixelSize() + 1 >= std::floor(type[widget] * scale),
+                         qPrintable(widget->objectName()));
+            }
+        }
+        ResizeInside(opening);
+        for (auto [widget, place] : places.asKeyValueRange()) {
+            QCOMPARE(widget->geometry(), place);
+        }
+    }
+
+    void nothing_is_clipped_at_any_size_data() { EachWindow(); }
+    void nothing_is_clipped_at_any_size()
+    {
+        OpenIt();
+        VerifyNothingClipped();
+        const QSize opening = m_form->centralWidget()->size();
+        for (const double scale : {1.25, 1.5, 2.0}) {
+            ResizeInside(opening * scale);
+            VerifyNothingClipped();
+        }
+        ResizeInside(opening.boundedTo(QSize(683, 330))); // half of 1366 x 768, less title and menu bar
+        VerifyNothingClipped();
+    }
+
+    void opens_no_larger_than_the_screen_data() { EachWindow(); }
+    void opens_no_larger_than_the_screen()
+    {
+        OpenIt();
+        const QSize room = m_form->screen()->availableSize();
+        QCOMPARE((QSizeF(room) * m_form->devicePixelRatio()).toSize(), QSize(1366, 768));
+        const QSize taken = m_form->frameGeometry().size();
+        QVERIFY2(taken.width() <= room.width() && taken.height() <= room.height(),
+                 qPrintable(QString("%1 x %2 of %3 x %4")
+                                .arg(taken.width())
+                                .arg(taken.height())
+                                .arg(room.width())
+                                .arg(room.height())));
+    }
+
+    void text_can_be_read_in_every_theme_data() { EachWindowInEachTheme(); }
+    void text_can_be_read_in_every_theme()
+    {
+        QFETCH(QPalette, theme);
+        QApplication::setPalette(theme);
+        OpenIt();
+        Press(Qt::Key_L); // letters on the tokens, where there are some
+        Fill();
+        constexpr double legible = 4.5;
+        for (QWidget* widget : Placed()) {
+            const bool hasText =
+                qobject_cast<QLineEdit*>(widget) != nullptr || qobject_cast<QPlainTextEdit*>(widget) != nullptr ||
+                qobject_cast<QPushButton*>(widget) != nullptr ||
+                (qobject_cast<QLabel*>(widget) != nullptr && !qobject_cast<QLabel*>(widget)->text().isEmpty());
+            if (!hasText || !widget->isVisible()) {
+                continue;
+            }
+            QVERIFY2(TextContrast(Inside(*widget)) >= legible,
+                     qPrintable(QString("%1: %2").arg(widget->objectName()).arg(TextContrast(Inside(*widget)))));
+            const QPalette colors = widget->palette();
+            QVERIFY(ui::Contrast(colors.color(QPalette::Highlight), colors.color(QPalette::HighlightedText)) >=
+                    legible);
+        }
+        if (!m_form->menuBar()->actions().isEmpty()) {
+            QVERIFY(TextContrast(m_form->menuBar()->grab().toImage()) >= legible);
+        }
+    }
+
+    void the_focus_can_be_seen_in_every_theme_data() { EachWindowInEachTheme(); }
+    void the_focus_can_be_seen_in_every_theme()
+    {
+        QFETCH(QPalette, theme);
+        QApplication::setPalette(theme);
+        OpenIt();
+        const QList<QWidget*> stops = Stops();
+        for (QWidget* stop : stops) {
+            (stop == stops.front() ? stops.back() : stops.front())->setFocus();
+            const QImage without = stop->grab().toImage();
+            stop->setFocus();
+            const QImage with = stop->grab().toImage();
+            int marked = 0; // pixels of the mark
+            for (int y = 0; y < with.height(); ++y) {
+                for (int x = 0; x < with.width(); ++x) {
+                    marked += ui::Contrast(with.pixelColor(x, y), without.pixelColor(x, y)) >= 3 ? 1 : 0;
+                }
+            }
+            QVERIFY2(marked >= with.width() + with.height(), qPrintable(stop->objectName()));
+        }
+    }
+
+    void parts_and_tokens_have_an_edge_in_every_theme_data() { EachWindowInEachTheme(); }
+    void parts_and_tokens_have_an_edge_in_every_theme()
+    {
+        QFETCH(QPalette, theme);
+        QApplication::setPalette(theme);
+        OpenIt();
+        for (QPushButton* button : m_form->findChildren<QPushButton*>()) {
+            if (button->isVisible() && !button->hasFocus()) {
+                const QImage image = button->grab().toImage();
+                const QRect area = button->mask().isEmpty() ? button->rect() : button->mask().boundingRect();
+                const int middle = area.center().y();
+                QVERIFY(ui::Contrast(image.pixelColor(area.left(), middle),
+                                     image.pixelColor(area.left() + 3, middle)) >= 3);
+                QVERIFY(ui::Contrast(image.pixelColor(area.right(), middle),
+                                     image.pixelColor(area.right() - 3, middle)) >= 3);
+            }
+        }
+    }
+};
+
+KELVORA_TEST_MAIN(tst_Windows)
+#include "tst_Windows.moc"
