@@ -49,8 +49,9 @@ void Control::Scale(double scale, const QPoint& origin)
 void Control::PutInPlace()
 {
     QRect place = ToPixels(m_place, m_scale).translated(m_origin);
-    if (!m_design.inside.empty()) { // edges rounded from another origin may be a pixel outside
-        place &= m_widget.parentWidget()->rect();
+    const QRect inside = place & m_widget.parentWidget()->rect();
+    if (!m_design.inside.empty() && !inside.isEmpty()) {
+        place = inside; // edges rounded from another origin may be a pixel outside
     }
     m_widget.setGeometry(place);
     m_widget.setFont(Font());
