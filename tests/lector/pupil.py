@@ -3,6 +3,7 @@ what every lesson does.
 """
 
 import os
+import re
 import unittest
 
 from session import Session
@@ -26,75 +27,74 @@ def fraction(numerator, denominator):
     return f"{sign}{CARDINALS[abs(numerator)]} {PARTS[denominator]}{'' if abs(numerator) == 1 else 's'}"
 
 
-# With Qt before 6.8 (and the Orca of its time, 43) an announcement is a notification; the two readers also differ in
-# their words for a button, in stops after a text and in how they read punctuation.
+# With Qt before 6.8 (and the Orca of its time, 43) an announcement is a notification.
 OLD = tuple(int(part) for part in os.environ["KELVORA_QT"].split(".")[:2]) < (6, 8)
-SUBMENU_HELP = "Combinaciones de teclaspunto punto punto " if OLD else "Combinaciones de teclas..."
-CREDITS = "Acerca depunto punto punto " if OLD else "Acerca de..."
+
+# What is heard of each kind of thing; two columns where the older and the newer reader differ.
+UTTERANCES = {
+    "announcement": (["notificación.", "{sentence}"], ["{text}"]),
+    "window": (["{text} marco."], ["{text} marco"]),
+    "window again": (["{text} marco."], ["{text}"]),
+    "dialog": (["{text} diálogo."], ["{text} diálogo"]),
+    "group": (["{text} panel."], ["{text} panel"]),  # the focus comes into a frame
+    "button": (["{text} botón de pulsación."], ["{text} botón."]),
+    "box": ["{text} texto."],
+    "locked box": ["{text} sólo lectura texto."],
+    "content": ["{sentence}"],
+    "selected content": ["{text} seleccionado."],
+    "selection": (["{text}", "seleccionado"], []),  # the whole text is selected, right before an announcement
+    "unchecked entry": (["{sentence}"], ["{text} no marcada."]),
+    "submenu with dots": (["{text}punto punto punto "], ["{text}..."]),
+    # A character typed. What Speech Dispatcher 0.12 hands on of it is not its text.
+    "echo": (["{text} "], []),
+}
 
 
 def sentence(text):
     """A sentence that ends in a letter or digit is given a full stop."""
-    return text + "." if text[-1].isalnum() else text
+    return text + "." if text[-1:].isalnum() else text
 
 
-def said(text):
-    """An announcement. Of a single character, see `echo`."""
-    if OLD:
-        return ["notificación.", sentence(text)]
-    return [text] if len(text) > 1 else []
+def utterances(kind, text):
+    found = UTTERANCES[kind]
+    if isinstance(found, tuple):
+        found = found[0 if OLD else 1]
+    return [utterance.format(text=text, sentence=sentence(text)) for utterance in found]
 
 
-def window(title):
-    return [f"{title} marco."] if OLD else [f"{title} marco"]
+class Brailled(str):
+    """A text that is heard while a braille line shows `braille`, whole."""
+
+    def __new__(cls, text, braille):
+        self = super().__new__(cls, text)
+        self.braille = braille.strip()
+        return self
 
 
 class Perhaps(str):
     """A text that may be missing."""
 
 
+def brailled(kind, text, braille):
+    return [Brailled(utterance, braille) for utterance in utterances(kind, text)]
+
+
+def said(text):
+    """An announcement. Of a single character, see "echo"."""
+    return brailled("announcement", text, text)[:None if OLD or len(text) > 1 else 0]
+
+
+def window(title):
+    return utterances("window", title)
+
+
 def window_again(title):
     """The window comes back. Orca 48 may take it for the one where it was; see `expect_window`."""
-    return window(title) if OLD else [Perhaps(title)]
+    return window(title) if OLD else [Perhaps(text) for text in utterances("window again", title)]
 
 
 def button(name):
-    return [f"{name} botón de pulsación."] if OLD else [f"{name} botón."]
-
-
-def locked(name, content):
-    return [f"{name} sólo lectura texto."] + ([sentence(content)] if content else [])
-
-
-def unchecked(entry):
-    return sentence(entry) if OLD else f"{entry} no marcada."
-
-
-def editable(name, content):
-    return [f"{name} texto."] + ([sentence(content)] if content else [])
-
-
-def selected(content):
-    """The whole text of the box in focus is selected, right before an announcement. Orca 48 says that alone."""
-    return [content, "seleccionado"] if OLD else []
-
-
-def editable_selected(name, content):
-    return [f"{name} texto.", f"{content} seleccionado."]
-
-
-def locked_selected(name, content):
-    return [f"{name} sólo lectura texto.", f"{content} seleccionado."]
-
-
-def echo(character):
-    """A character typed. What Speech Dispatcher 0.12 hands on of it is not its text."""
-    return [f"{character} "] if OLD else []
-
-
-def group(name):
-    """The focus comes into a frame."""
-    return [f"{name} panel."] if OLD else [f"{name} panel"]
+    return brailled("button", name, f"{name} botón")
 
 
 def renamed(name):
@@ -102,11 +102,53 @@ def renamed(name):
     return said(name) if OLD else button(name)
 
 
+def group(name):
+    return utterances("group", name)
+
+
+def with_content(kind, name, content):
+    return brailled(kind, name, f"{name} {content}") + (utterances("content", content) if content else [])
+
+
+def locked(name, content):
+    return with_content("locked box", name, content)
+
+
+def editable(name, content):
+    return with_content("box", name, content)
+
+
+def locked_selected(name, content):
+    return brailled("locked box", name, f"{name} {content}") + utterances("selected content", content)
+
+
+def editable_selected(name, content):
+    return brailled("box", name, f"{name} {content}") + utterances("selected content", content)
+
+
+def selected(content):
+    return utterances("selection", content)
+
+
+def unchecked(entry):
+    return utterances("unchecked entry", entry)[0]
+
+
+def echo(character):
+    return utterances("echo", character)
+
+
+SUBMENU_HELP = utterances("submenu with dots", "Combinaciones de teclas")[0]
+CREDITS = utterances("submenu with dots", "Acerca de")[0]
+ENGLISH = r"\b(button|push|text|frame|box|window|dialog|menu bar|read only|checked|selected|label|blank|ok|cancel|yes)\b|[&<>{}]"
+
+
 class Lesson(unittest.TestCase):
     maxDiff = None
 
     def setUp(self):
         self.session = Session()
+        self.brailled = []
         self.addCleanup(self.close)
 
     def close(self):
@@ -114,12 +156,28 @@ class Lesson(unittest.TestCase):
         failed = any(case is self for case, _ in outcome.errors + outcome.failures)
         self.session.close(keep=failed)
 
+    def tearDown(self):
+        """Of a whole lesson: nothing was English or made of the program's inner workings, and braille showed, in the same
+        order, all that was heard of messages and boxes."""
+        if not self._outcome.success:
+            return
+        for text in self.session.all_heard():
+            self.assertIsNone(re.search(ENGLISH, text, re.IGNORECASE), text)
+        self.session.end_reader()  # which writes its log late
+        lines = self.session.braille()
+        line = 0
+        for text in self.brailled:
+            found = next((i for i in range(line, len(lines)) if text in lines[i]), None)
+            self.assertIsNotNone(found, f"{text!r} not in {lines[line:]}")
+            line = found
+
     def expect(self, *parts):
         """What was heard since the last call is exactly this, each text once and to its end."""
         expected = [text for part in parts for text in part]
         certain = [text for text in expected if not isinstance(text, Perhaps)]
         heard = self.session.heard(len(certain))
         self.assertEqual(heard, certain if len(heard) == len(certain) else expected)
+        self.brailled += [text.braille for text in certain if isinstance(text, Brailled)]
 
     def press(self, key, *parts):
         self.session.press(key)
@@ -144,14 +202,17 @@ class Lesson(unittest.TestCase):
         self.session.wait_heard(first)
 
     def type(self, digits, replacing=False):
-        """Types a number, perhaps over a selection; the voice echoes each digit, of which the next key may cut off the
-        echo and what follows it."""
+        """Types a number, perhaps over a selection; the voice echoes the last digit, and those before it where the next
+        key does not come first."""
         self.session.type(digits)
         echoed = [text.removesuffix(" [cut]").strip() for text in self.session.heard()]
         if replacing:
             echoed = [text for text in echoed if text != "Selección eliminada."]
         if OLD:
-            self.assertEqual(echoed, ["guión" if digit == "-" else digit for digit in digits])
+            expected = ["guión" if digit == "-" else digit for digit in digits]
+            self.assertEqual(echoed[-1:], expected[-1:])
+            remaining = iter(expected)
+            self.assertTrue(all(digit in remaining for digit in echoed), f"{echoed} of {expected}")
 
     def expect_input(self, title, prompt, offered):
         """An input box has opened by a key."""
@@ -160,8 +221,8 @@ class Lesson(unittest.TestCase):
         heard = self.session.heard()
         if OLD and heard[:2] == selected(offered):
             heard = heard[2:]  # Qt selects the text before the box is there, and Orca may hear of that first
-        if OLD or heard[:1] == [f"{title} diálogo"]:  # see expect_window
-            self.assertEqual(heard[:1], [f"{title} diálogo." if OLD else f"{title} diálogo"])
+        if OLD or heard[:1] == utterances("dialog", title):  # see expect_window
+            self.assertEqual(heard[:1], utterances("dialog", title))
             heard = heard[1:]
         self.assertEqual(heard, box)
 

@@ -59,6 +59,23 @@ printf 'END %s\\n' "$text" >> '{transcript}'
 ORCA_SETTINGS = {"enableFunctionKeys": False, "enableModifierKeys": False, "enableActionKeys": False,
                  "enableNavigationKeys": False}
 
+LANGUAGE = """\
+import gi
+gi.require_version("Atspi", "2.0")
+from gi.repository import Atspi, Gio
+desktop = Atspi.get_desktop(0)
+programs = [desktop.get_child_at_index(i) for i in range(desktop.get_child_count())]
+program = next(program for program in programs if program.get_name() == "Kelvora")
+session = Gio.bus_get_sync(Gio.BusType.SESSION)
+address = session.call_sync("org.a11y.Bus", "/org/a11y/bus", "org.a11y.Bus", "GetAddress", None, None, 0, -1, None)
+flags = Gio.DBusConnectionFlags
+bus = Gio.DBusConnection.new_for_address_sync(address.unpack()[0], flags.AUTHENTICATION_CLIENT |
+                                              flags.MESSAGE_BUS_CONNECTION, None, None)
+from gi.repository import GLib
+print(bus.call_sync(program.app.bus_name, "/org/a11y/atspi/accessible/root", "org.a11y.atspi.Application", "GetLocale",
+                    GLib.Variant("(u)", (0,)), None, 0, -1, None).unpack()[0])
+"""
+
 ASOUNDRC = "pcm.!default { type null }\n"
 
 
@@ -74,6 +91,11 @@ def wait_for(condition, what, limit=LIMIT):
             return value
         time.sleep(0.02)
     raise NotReady(f"waited {limit} s for {what}")
+
+
+def is_text(text):
+    """What Speech Dispatcher 0.12 hands on for a single character or key is not its text."""
+    return text and "\N{REPLACEMENT CHARACTER}" not in text and text.isprintable()
 
 
 class Session:
@@ -141,16 +163,19 @@ class Session:
         settings.write_text(json.dumps({"general": ORCA_SETTINGS, "pronunciations": {}, "keybindings": {}, "profiles": {
             "default": ORCA_SETTINGS | {"profile": ["Default", "default"], "pronunciations": {}, "keybindings": {}}}}))
         for _ in range(5):  # it does not always come up at once
-            reader = self._start("orca-output", "/usr/bin/python3", "/usr/bin/orca", "--replace",
+            self._reader = self._start("orca-output", "/usr/bin/python3", "/usr/bin/orca", "--replace",
                                  f"--debug-file={self.orca_log}")
             try:
                 wait_for(lambda: READY in self.transcript.read_text(), "Orca", 15)
                 break
             except NotReady:
-                self._end(reader)
+                self._end(self._reader)
         else:
             raise NotReady(f"Orca did not start in five tries; its logs are in {self.home}")
         self.heard()
+
+    def end_reader(self):
+        self._end(self._reader)
 
     def braille(self):
         """The lines that a braille display has shown, in order."""
@@ -187,6 +212,15 @@ class Session:
     def type(self, text):
         subprocess.run(["xdotool", "type", "--delay", "120", "--", text], env=self.env, check=True)
 
+    def all_heard(self):
+        """All texts that the voice has begun since the reader was there."""
+        return [line[6:] for line in self._lines() if line.startswith("START ") and is_text(line[6:])]
+
+    def language(self):
+        """The language that the program tells of itself on the accessibility bus."""
+        return subprocess.run(["/usr/bin/python3", "-c", LANGUAGE], env=self.env, check=True, capture_output=True,
+                              text=True, timeout=LIMIT).stdout.strip()
+
     def heard_so_far(self):
         """The texts that the voice has begun since the last `heard`, which will give them again."""
         return [line[6:] for line in self._lines()[self._read:] if line.startswith("START ")]
@@ -212,8 +246,8 @@ class Session:
         for line in new:
             if line.startswith("START "):
                 text = line[6:]
-                if not text or "\N{REPLACEMENT CHARACTER}" in text or not text.isprintable():
-                    continue  # what Speech Dispatcher 0.12 hands on for a single character or key is not its text
+                if not is_text(text):
+                    continue
                 if text in ended:
                     ended.remove(text)
                     texts.append(text)
@@ -231,6 +265,7 @@ class Session:
                 child.wait(5)
             except (ProcessLookupError, subprocess.TimeoutExpired):
                 os.killpg(child.pid, signal.SIGKILL)
+                child.wait()
         self._children.remove(child)
 
     def close(self, keep=False):

@@ -62,6 +62,10 @@ class Cantidad(ExerciseLesson):
 
         match = self.exchange("Return", self.reading, editable("Resultado", ""))
         solution = f"{self.result(match)}"
+        self.press("alt+o", ["Denominador."])
+        self.press("Right", ["Hasta 10 marcada."])
+        self.press("Down", [unchecked("Hasta 20")])
+        self.press("Return", editable("Resultado", ""))
         self.press("Tab", locked("Ejercicio en palabras", match.group()))
         self.press("alt+v", editable_selected("Resultado", solution))
 
@@ -144,7 +148,7 @@ class Fichas(ExerciseLesson):
         # The first row of the instruction, as far as it goes in the type that there is.
         rows = [text for text in self.session.heard_so_far() if text.startswith("Expresa con una fracción ")]
         self.assertIn(rows[-1].removesuffix(".").strip(), "Expresa con una fracción la parte que representa cada color")
-        return locked("Instrucciones", rows[-1])
+        return locked("Instrucciones", rows[-1].removesuffix("."))
 
     def answer(self, match):
         """Fills the six boxes from the first one on."""
@@ -202,6 +206,9 @@ class Ordenar(ExerciseLesson):
             for i in (2, 1, 0):
                 self.press("shift+Tab", button(row[i][0]))
         self.press("alt+h", button("Continuar"), said(" Resultado correcto"))
+        self.session.press("alt+v")
+        self.session.heard(1)
+        self.press("alt+h", button("Continuar"), said(" Resultado correcto "))
         # The first fraction of the next exercise. Orca 48 hears of its new name and of the focus, and may begin it twice.
         self.session.press("Return")
         heard = [text.removesuffix(" [cut]") for text in self.session.heard(1)]
@@ -235,6 +242,8 @@ class Conversion(ExerciseLesson):
                 self.press("Tab", editable(f"{self.boxes[i]} final", ""))
             self.type(f"{value}")
         self.press("alt+h", button("Continuar"), said("Resultado correcto"))
+        self.press("alt+v", button("Ver solución"))
+        self.press("alt+h", button("Continuar"), said("Resultado correcto"))
         self.press("alt+F4", window_again("KELVORA"), button(self.name))
 
 
@@ -259,6 +268,16 @@ class Series(ExerciseLesson):
         self.type(f"{2 * below[3] - below[2]}")
         self.press("Return", button("Continuar"), said("Respuesta correcta"))
         self.press("Return", editable("Numerador del término 5", ""))
+
+        # A harder series is shorter of its blank, which the solution fills.
+        self.press("alt+o", ["Dificultad."])
+        self.press("Right", ["1A marcada."])
+        self.press("Down", [unchecked("1B")])
+        self.press("Down", [unchecked("2A")])
+        self.press("Return", editable("Numerador del término 5", ""))
+        self.press("alt+c", editable("Numerador del término 6", ""))
+        self.session.press("alt+v")
+        self.assertRegex(self.session.heard(len(said("xx")))[-1], r"^Numerador del término 6 \d+\.?$")
         self.press("alt+F4", window_again("KELVORA"), button(self.name))
 
 
@@ -323,6 +342,9 @@ class Factores(ExerciseLesson):
         self.press("Tab", locked("Factores primos", " * ".join(str(d) for d in divisors) + " "))
         self.press("alt+h", button("Continuar"), said("Resultado correcto"))
 
+        self.press("Return", self.ladder(self.empty_row))
+        self.press("alt+o", ["Valores."])
+        self.press("Right", [unchecked("Hasta 10")])
         self.press("Return", self.ladder(self.empty_row))
         self.session.press("F2")
         self.expect_input("Introducir valor", "Introduzca valor a descomponer: ", "")

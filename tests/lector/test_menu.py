@@ -10,6 +10,7 @@ class Menu(Lesson):
         self.session.run(PROGRAM)
         self.session.wait_heard("botón")
         self.expect(window("KELVORA"), button("Representación gráfica"))
+        self.assertEqual(self.session.language(), "es_ES")
         self.press("Alt_L", [CREDITS])
         self.session.press("Return")
         self.session.wait_heard("Aceptar")

@@ -1,0 +1,111 @@
+// Takes the documentation's pictures from the program: the menu, the sum after a wrong answer, and all twelve windows
+// at three sizes in a light and a dark theme, side by side. Its argument is the folder that they go to.
+#include "Application.h"
+#include "Random.h"
+#include "Support.h"
+#include "Windows.h"
+
+#include <QLineEdit>
+#include <QPainter>
+#include <QStyle>
+
+namespace {
+
+constexpr double shrink = 0.4; // of the sheet
+constexpr int gap = 16;        // pixels between its pictures
+
+QPalette Dark()
+{
+    const QColor window(53, 53, 53);
+    QPalette dark(Qt::white, window, window.lighter(), window.darker(), window, Qt::white, Qt::white,
+                  QColor(35, 35, 35), window);
+    dark.setColor(QPalette::Highlight, QColor(42, 130, 218));
+    return dark;
+}
+
+// Opens a window anew, has it used and takes its picture.
+template <class Use>
+QImage Picture(const support::Window& window, double scale, Use use)
+{
+    ui::FixSeed(7);
+    ui::Form* form = window.make();
+    form->Open(ui::Modality::Modeless);
+    support::WaitActive(*form);
+    form->resize(form->size() * scale);
+    support::Settle();
+    use(*form);
+    const QImage picture = form->grab().toImage();
+    form->close();
+    support::Settle();
+    return picture;
+}
+
+void AnswerWrongly(const ui::Form& form)
+{
+    support::Child<QLineEdit>(form, "Text1(4)").setFocus();
+    support::Type("7");
+    support::Child<QLineEdit>(form, "Text1(5)").setFocus();
+    support::Type("8");
+    support::Press(Qt::Key_Return);
+    support::Settle();
+}
+
+// A row for each window, and in it each theme's pictures from small to large.
+QImage Sheet()
+{
+    const QPalette light = QApplication::style()->standardPalette();
+    QList<QList<QImage>> rows;
+    QList<int> widths;
+    QSize size(gap, gap);
+    for (const support::Window& window : support::windows) {
+        QList<QImage> row;
+        int height = 0;
+        for (const QPalette& theme : {light, Dark()}) {
+            QApplication::setPalette(theme);
+            for (const double scale : {0.75, 1.0, 1.5}) {
+                const QImage picture = Picture(window, scale, [](const ui::Form&) {});
+                row += picture.scaled(picture.size() * shrink, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+                height = std::max(height, row.back().height());
+            }
+        }
+        widths.resize(row.size());
+        for (qsizetype column = 0; column < row.size(); ++column) {
+            widths[column] = std::max(widths[column], row[column].width());
+        }
+        rows += row;
+        size.rheight() += height + gap;
+    }
+    for (const int width : widths) {
+        size.rwidth() += width + gap;
+    }
+    QImage sheet(size, QImage::Format_RGB32);
+    sheet.fill(Qt::gray);
+    QPainter painter(&sheet);
+    int top = gap;
+    for (const QList<QImage>& row : rows) {
+        int left = gap;
+        int height = 0;
+        for (qsizetype column = 0; column < row.size(); ++column) {
+            painter.drawImage(left, top, row[column]);
+            left += widths[column] + gap;
+            height = std::max(height, row[column].height());
+        }
+        top += height + gap;
+    }
+    QApplication::setPalette(light);
+    return sheet;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    ui::Application application(argc, argv);
+    ui::Application::setQuitOnLastWindowClosed(false);
+    const QString folder = QApplication::arguments().value(1, ".");
+    const auto sum = std::ranges::find(support::windows, std::string_view("Form2"), &support::Window::name);
+    const bool saved = Picture(support::windows.front(), 1, [](const ui::Form&) {}).save(folder + "/menu.png") &&
+                       Picture(*sum, 1, AnswerWrongly).save(folder + "/suma.png") &&
+                       Sheet().save(folder + "/ventanas.png");
+    return saved ? EXIT_SUCCESS : EXIT_FAILURE;
+}
