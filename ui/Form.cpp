@@ -73,7 +73,8 @@ void Form::Open(Modality modality)
         (*first)->setFocus();
     }
     constexpr int frame = 4; // pixels at the sides and below; what the desktop really adds is known too late
-    const QSize wanted = ToPixels({0, 0, m_design.width, m_design.height}, 1).size();
+    const double textScale = std::max(1.0, logicalDpiX() / 96.0); // what the desktop's texts are enlarged by
+    const QSize wanted = ToPixels({0, 0, m_design.width, m_design.height}, textScale).size();
     centralWidget()->setFixedSize(wanted); // so that the window becomes this size and its menu bar
     adjustSize();
     centralWidget()->setMinimumSize(1, 1);

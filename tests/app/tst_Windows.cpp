@@ -394,6 +394,14 @@ private slots:
                                 .arg(room.height())));
     }
 
+    void opens_larger_where_the_texts_of_the_desktop_are()
+    {
+        OpenScreen(new operaciones::Form2);
+        const double scale = m_form->logicalDpiX() / 96.0;
+        QCOMPARE(m_form->centralWidget()->width(), std::lround(326 * scale));
+        QVERIFY(m_form->centralWidget()->height() > 300 * scale);
+    }
+
     void text_can_be_read_in_every_theme_data() { EachWindowInEachTheme(); }
     void text_can_be_read_in_every_theme()
     {

@@ -282,21 +282,21 @@ private slots:
 
     void clearing_exchanges_what_is_drawn()
     {
-        ui::FixSeed(99);
         QSet<bool> kinds;
         for (unsigned round = 0; round < 200; ++round) {
+            ui::FixSeed(round);
             Continue();
             Row expected = Shown();
             const bool same = expected.denominators[0] == expected.denominators[1];
             kinds.insert(same);
             auto& varying = same ? expected.numerators : expected.denominators;
-            ui::Randomize(round);
+            ui::Randomize(0);
             do {
                 const int i = static_cast<int>(4 * ui::Rnd());
                 const int j = static_cast<int>(4 * ui::Rnd());
                 std::swap(varying.at(i), varying.at(j));
             } while (expected.Increasing());
-            ui::Randomize(round);
+            ui::Randomize(0);
             Button("Command2(1)").click();
             QCOMPARE(Shown(), expected);
         }

@@ -72,7 +72,10 @@ class Brailled(str):
 
 
 class Perhaps(str):
-    """A text that may be missing."""
+    """The title of a window, which may be missing, or be cut off, or be followed by its role."""
+
+    def is_in(self, text):
+        return text.removesuffix(" [cut]").removesuffix(" marco") == self.removesuffix(" marco")
 
 
 def brailled(kind, text, braille):
@@ -176,7 +179,9 @@ class Lesson(unittest.TestCase):
         expected = [text for part in parts for text in part]
         certain = [text for text in expected if not isinstance(text, Perhaps)]
         heard = self.session.heard(len(certain))
-        self.assertEqual(heard, certain if len(heard) == len(certain) else expected)
+        if heard and any(isinstance(text, Perhaps) and text.is_in(heard[0]) for text in expected):
+            del heard[0]
+        self.assertEqual(heard, certain)
         self.brailled += [text.braille for text in certain if isinstance(text, Brailled)]
 
     def press(self, key, *parts):
@@ -197,7 +202,8 @@ class Lesson(unittest.TestCase):
             if texts[-1:] == button(name):
                 break
             self.session.press("Tab")
-            texts = self.session.heard()
+            texts = self.session.heard(1)
+        self.assertEqual(texts[-1:], button(name))
         self.session.press("Return")
         self.session.wait_heard(first)
 

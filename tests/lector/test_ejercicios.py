@@ -67,6 +67,8 @@ class Cantidad(ExerciseLesson):
         self.press("Down", [unchecked("Hasta 20")])
         self.press("Return", editable("Resultado", ""))
         self.press("Tab", locked("Ejercicio en palabras", match.group()))
+        self.press("ctrl+r", editable("Resultado", ""))
+        self.press("Tab", locked("Ejercicio en palabras", match.group()))
         self.press("alt+v", editable_selected("Resultado", solution))
 
         # A fraction of the pupil's own, with a quantity that it does not divide.
@@ -328,6 +330,13 @@ class Factores(ExerciseLesson):
 
         # A bar stays, and what is refused says the row as it is.
         self.press("alt+b", self.ladder(self.empty_row))
+        self.type(f"9{value}")
+        self.session.press("BackSpace")
+        self.session.heard()
+        self.session.press("Home")
+        self.session.heard()
+        self.session.press("Delete")
+        self.session.heard()
         self.type(f"{value}")
         self.go("Right", 5 - len(f"{value}"))
         self.press("6", echo("6"), said(f"{value:<5}|    "))

@@ -137,7 +137,6 @@ class Suma(OperationLesson):
         """The suite proves itself: it is the announcements that it hears, and their absence does not pass."""
         self.open_screen(MUTE_PROGRAM, self.name, "Numerador")
         texts = self.session.heard()
-        self.assertEqual(texts[:1], window("SUMA DE FRACCIONES"))
         with self.assertRaises(AssertionError):
             self.hear_exercise(texts)
         self.session.press("ctrl+Left")
@@ -153,6 +152,8 @@ class Diferencia(OperationLesson):
         self.open_operation()
         self.assertEqual(self.d1, self.d2)
         self.press("F3", self.says_operation())
+        self.press("ctrl+Down", self.says_operation())
+        self.press("ctrl+Up", self.says_fraction(fraction(self.n1, self.d1)))
         self.press("ctrl+Left", editable("Numerador del resultado", ""), self.says_fraction("cero ceros"))
 
         # A negative number is read as such; being wrong, it is cleared away.

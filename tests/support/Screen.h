@@ -76,12 +76,17 @@ protected:
     template <class Create, class Read>
     void VerifySeedOfTheTimer(Create create, Read read)
     {
-        ui::FixSeed({});
-        const auto first = read();
-        for (int tries = 0; tries < 20; ++tries) {
+        const auto reopened = [&] {
             CloseScreen();
+            ui::FixSeed(7);
+            ui::Randomize(0); // so that it is not for what was drawn before that they differ
+            ui::FixSeed({});
             OpenScreen(create());
-            if (read() != first) {
+            return read();
+        };
+        const auto first = reopened();
+        for (int tries = 0; tries < 20; ++tries) {
+            if (reopened() != first) {
                 return;
             }
         }
