@@ -64,10 +64,10 @@ bool Application::notify(QObject* receiver, QEvent* event)
 // Most themes have white type on a light blue that it can hardly be read on.
 void Application::MakeSelectionLegible()
 {
-    QPalette colors = palette();
-    const QColor type = colors.color(QPalette::HighlightedText);
-    const QColor legible = ReadableOn(colors.color(QPalette::Highlight), type);
+    const QColor type = palette().color(QPalette::HighlightedText);
+    const QColor legible = ReadableOn(palette().color(QPalette::Highlight), type);
     if (legible != type) {
+        QPalette colors; // of this colour alone: the others go on following the theme
         colors.setColor(QPalette::HighlightedText, legible);
         setPalette(colors);
     }

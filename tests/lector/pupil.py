@@ -6,7 +6,7 @@ import os
 import re
 import unittest
 
-from session import Session
+from session import OLD, Session
 
 PROGRAM = os.environ["KELVORA"]
 
@@ -27,10 +27,8 @@ def fraction(numerator, denominator):
     return f"{sign}{CARDINALS[abs(numerator)]} {PARTS[denominator]}{'' if abs(numerator) == 1 else 's'}"
 
 
-# With Qt before 6.8 (and the Orca of its time, 43) an announcement is a notification.
-OLD = tuple(int(part) for part in os.environ["KELVORA_QT"].split(".")[:2]) < (6, 8)
-
-# What is heard of each kind of thing; two columns where the older and the newer reader differ.
+# What is heard of each kind of thing; two columns where the older and the newer reader differ. To the older one an
+# announcement is a notification.
 UTTERANCES = {
     "announcement": (["notificación.", "{sentence}"], ["{text}"]),
     "window": (["{text} marco."], ["{text} marco"]),
@@ -165,6 +163,8 @@ class Lesson(unittest.TestCase):
         if not self._outcome.success:
             return
         for text in self.session.all_heard():
+            if len(text) < 8 and not OLD:
+                continue  # may be a single character, see "echo"
             self.assertIsNone(re.search(ENGLISH, text, re.IGNORECASE), text)
         self.session.end_reader()  # which writes its log late
         lines = self.session.braille()

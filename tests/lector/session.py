@@ -54,24 +54,39 @@ sleep $((ms / 1000)).$(printf %03d $((ms % 1000)))
 printf 'END %s\\n' "$text" >> '{transcript}'
 """
 
+# Qt before 6.8, and the Orca of its time, 43.
+OLD = tuple(int(part) for part in os.environ["KELVORA_QT"].split(".")[:2]) < (6, 8)
+
 # Of the keys, only the characters typed are echoed: names of function keys and the like are cut off, or not, by the
-# speed of the fingers, and are the reader's own affair.
-ORCA_SETTINGS = {"enableFunctionKeys": False, "enableModifierKeys": False, "enableActionKeys": False,
+# speed of the fingers, and are the reader's own affair. With the newer reader not even those: what Speech Dispatcher 0.12
+# hands on of a single character is not its text.
+ORCA_SETTINGS = {"enablePrintableKeys": OLD, "enableFunctionKeys": False, "enableModifierKeys": False, "enableActionKeys": False,
                  "enableNavigationKeys": False}
 
-LANGUAGE = """\
+ACCESSIBILITY_BUS = """\
 import gi
 gi.require_version("Atspi", "2.0")
-from gi.repository import Atspi, Gio
-desktop = Atspi.get_desktop(0)
-programs = [desktop.get_child_at_index(i) for i in range(desktop.get_child_count())]
-program = next(program for program in programs if program.get_name() == "Kelvora")
+from gi.repository import Atspi, Gio, GLib
 session = Gio.bus_get_sync(Gio.BusType.SESSION)
 address = session.call_sync("org.a11y.Bus", "/org/a11y/bus", "org.a11y.Bus", "GetAddress", None, None, 0, -1, None)
 flags = Gio.DBusConnectionFlags
 bus = Gio.DBusConnection.new_for_address_sync(address.unpack()[0], flags.AUTHENTICATION_CLIENT |
                                               flags.MESSAGE_BUS_CONNECTION, None, None)
-from gi.repository import GLib
+"""
+
+# Whoever is on the bus answers: Orca 48 sometimes hangs over its own arrival there.
+PING = ACCESSIBILITY_BUS + """
+daemon = "org.freedesktop.DBus"
+names = bus.call_sync(daemon, "/org/freedesktop/DBus", daemon, "ListNames", None, None, 0, -1, None).unpack()[0]
+for name in names:
+    if name.startswith(":") and name != bus.get_unique_name():
+        bus.call_sync(name, "/", "org.freedesktop.DBus.Peer", "Ping", None, None, 0, 5000, None)
+"""
+
+LANGUAGE = ACCESSIBILITY_BUS + """
+desktop = Atspi.get_desktop(0)
+programs = [desktop.get_child_at_index(i) for i in range(desktop.get_child_count())]
+program = next(program for program in programs if program.get_name() == "Kelvora")
 print(bus.call_sync(program.app.bus_name, "/org/a11y/atspi/accessible/root", "org.a11y.atspi.Application", "GetLocale",
                     GLib.Variant("(u)", (0,)), None, 0, -1, None).unpack()[0])
 """
@@ -163,12 +178,15 @@ class Session:
         settings.write_text(json.dumps({"general": ORCA_SETTINGS, "pronunciations": {}, "keybindings": {}, "profiles": {
             "default": ORCA_SETTINGS | {"profile": ["Default", "default"], "pronunciations": {}, "keybindings": {}}}}))
         for _ in range(5):  # it does not always come up at once
+            before = self.transcript.read_text().count(READY)
             self._reader = self._start("orca-output", "/usr/bin/python3", "/usr/bin/orca", "--replace",
                                  f"--debug-file={self.orca_log}")
             try:
-                wait_for(lambda: READY in self.transcript.read_text(), "Orca", 15)
+                wait_for(lambda: self.transcript.read_text().count(READY) > before, "Orca", 15)
+                time.sleep(0.5)  # until it is on the bus itself
+                self._ask(PING)
                 break
-            except NotReady:
+            except (NotReady, subprocess.SubprocessError):
                 self._end(self._reader)
         else:
             raise NotReady(f"Orca did not start in five tries; its logs are in {self.home}")
@@ -218,7 +236,10 @@ class Session:
 
     def language(self):
         """The language that the program tells of itself on the accessibility bus."""
-        return subprocess.run(["/usr/bin/python3", "-c", LANGUAGE], env=self.env, check=True, capture_output=True,
+        return self._ask(LANGUAGE)
+
+    def _ask(self, question):
+        return subprocess.run(["/usr/bin/python3", "-c", question], env=self.env, check=True, capture_output=True,
                               text=True, timeout=LIMIT).stdout.strip()
 
     def heard_so_far(self):
