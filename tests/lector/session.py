@@ -60,7 +60,7 @@ OLD = tuple(int(part) for part in os.environ["KELVORA_QT"].split(".")[:2]) < (6,
 # Of the keys, only the characters typed are echoed: names of function keys and the like are cut off, or not, by the
 # speed of the fingers, and are the reader's own affair. With the newer reader not even those: what Speech Dispatcher 0.12
 # hands on of a single character is not its text.
-ORCA_SETTINGS = {"enablePrintableKeys": OLD, "enableFunctionKeys": False, "enableModifierKeys": False, "enableActionKeys": False,
+ORCA_SETTINGS = {"enableKeyEcho": OLD, "enableFunctionKeys": False, "enableModifierKeys": False, "enableActionKeys": False,
                  "enableNavigationKeys": False}
 
 ACCESSIBILITY_BUS = """\
