@@ -34,7 +34,7 @@ QImage Picture(const support::Window& window, double scale, Use use)
     form->resize(form->size() * scale);
     support::Settle();
     use(*form);
-    const QImage picture = form->grab().toImage();
+    QImage picture = form->grab().toImage();
     form->close();
     support::Settle();
     return picture;

@@ -286,8 +286,8 @@ private slots:
         OpenIt();
         const QList<QWidget*> stops = Stops();
         QCOMPARE(QApplication::focusWidget(), stops.front());
-        for (qsizetype i = 0; i < stops.size(); ++i) {
-            QCOMPARE(QApplication::focusWidget(), stops[i]);
+        for (const QWidget* stop : stops) {
+            QCOMPARE(QApplication::focusWidget(), stop);
             Press(Qt::Key_Tab);
         }
         QCOMPARE(QApplication::focusWidget(), stops.front());
@@ -341,7 +341,7 @@ private slots:
             type[widget] = widget->font().pixelSize();
         }
         for (const auto& [wider, higher] : {std::pair(1.25, 1.25), std::pair(1.5, 2.5), std::pair(3.0, 1.5)}) {
-            const QSize size(std::lround(opening.width() * wider), std::lround(opening.height() * higher));
+            const QSize size = QSizeF(opening.width() * wider, opening.height() * higher).toSize();
             ResizeInside(size);
             const double scale =
                 std::min(double(size.width()) / opening.width(), double(size.height()) / opening.height());
