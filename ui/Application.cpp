@@ -64,10 +64,10 @@ bool Application::notify(QObject* receiver, QEvent* event)
 // Most themes have white type on a light blue that it can hardly be read on.
 void Application::MakeSelectionLegible()
 {
-    const QColor type = palette().color(QPalette::HighlightedText);
-    const QColor legible = ReadableOn(palette().color(QPalette::Highlight), type);
+    QPalette colors = palette(); // those that the theme gives are not set here, and go on following it
+    const QColor type = colors.color(QPalette::HighlightedText);
+    const QColor legible = ReadableOn(colors.color(QPalette::Highlight), type);
     if (legible != type) {
-        QPalette colors; // of this colour alone: the others go on following the theme
         colors.setColor(QPalette::HighlightedText, legible);
         setPalette(colors);
     }
