@@ -271,7 +271,7 @@ class Series(ExerciseLesson):
         self.press("Return", button("Continuar"), said("Respuesta correcta"))
         self.press("Return", editable("Numerador del término 5", ""))
 
-        # A harder series is shorter of its blank, which the solution fills.
+        # A harder series has its blank one term later, which the solution fills.
         self.press("alt+o", ["Dificultad."])
         self.press("Right", ["1A marcada."])
         self.press("Down", [unchecked("1B")])

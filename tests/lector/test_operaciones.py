@@ -137,6 +137,8 @@ class Suma(OperationLesson):
         """The suite proves itself: it is the announcements that it hears, and their absence does not pass."""
         self.open_screen(MUTE_PROGRAM, self.name, "Numerador")
         texts = self.session.heard()
+        if OLD:  # the newer reader may leave the title out, see `expect_window`
+            self.assertEqual(texts[:1], window("SUMA DE FRACCIONES"))
         with self.assertRaises(AssertionError):
             self.hear_exercise(texts)
         self.session.press("ctrl+Left")
