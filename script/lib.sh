@@ -33,7 +33,10 @@ need() {
 }
 
 build_packages=(g++ cmake ninja-build qt6-base-dev qt6-base-dev-tools libgl-dev)
-run_packages=(qt6-translations-l10n fonts-liberation fonts-comic-neue at-spi2-core)
+run_packages=(qt6-translations-l10n fonts-liberation fonts-dejavu-core fonts-comic-neue at-spi2-core)
+if [ "$(. /etc/os-release && echo "${VERSION_ID:-13}")" -ge 13 ]; then
+    run_packages+=(fonts-liberation-sans-narrow) # before, in fonts-liberation
+fi
 test_packages=(qt6-base-private-dev strace xvfb openbox xdotool dbus-daemon locales python3 orca speech-dispatcher
     speech-dispatcher-audio-plugins python3-speechd python3-pyatspi)
 

@@ -3,8 +3,10 @@
 #include "Strings.h"
 
 #include <QActionGroup>
+#include <QApplication>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPointer>
 
 namespace ui {
 
@@ -20,6 +22,32 @@ QActionGroup* GroupOf(const MenuDesign& design, QActionGroup* previous, QMenuBar
     group->setObjectName(ToQString(design.name));
     return group;
 }
+
+// An entry of the bar itself that opens a box finds the focus on the bar when the box has closed: the bar forgets where
+// it came from as soon as the box takes it.
+class FocusBefore final : public QObject
+{
+public:
+    explicit FocusBefore(QMenuBar& bar) : QObject(&bar), m_bar(bar)
+    {
+        connect(qApp, &QApplication::focusChanged, this, [this](QWidget* old, const QWidget* now) {
+            if (now == &m_bar && old != nullptr) {
+                m_before = old;
+            }
+        });
+    }
+
+    void Restore() const
+    {
+        if (m_before && m_bar.window()->focusWidget() == &m_bar) {
+            m_before->setFocus(Qt::MenuBarFocusReason);
+        }
+    }
+
+private:
+    QMenuBar& m_bar;
+    QPointer<QWidget> m_before;
+};
 
 } // namespace
 
@@ -64,6 +92,9 @@ std::vector<std::unique_ptr<MenuItem>> BuildMenus(QMenuBar& bar, std::span<const
         parents[depth]->addAction(action);
         if (!hasEntries) {
             items.push_back(std::make_unique<MenuItem>(design, *action));
+            if (depth == 0) {
+                QObject::connect(action, &QAction::triggered, new FocusBefore(bar), &FocusBefore::Restore);
+            }
         }
     }
     return items;

@@ -262,6 +262,25 @@ private slots:
         QCOMPARE(Child<QAction>(*m_menu, "MnuAce").text(), "Acerca de...");
     }
 
+    // Alt alone leads to the menu bar, whose only entry has no menu beneath it.
+    void leads_back_to_the_button_from_the_credits()
+    {
+        support::Ear ear;
+        WithDialog(
+            [] {
+                Press(Qt::Key_Alt);
+                Press(Qt::Key_Return);
+            },
+            [&ear](QWidget& dialog) {
+                ear.Take();
+                QTest::keyClick(&dialog, Qt::Key_Return);
+            });
+        m_menu->activateWindow(); // as a window manager does
+        QVERIFY(WaitActive(*m_menu));
+        QCOMPARE(Focus(), "Command1(0)");
+        QCOMPARE(ear.Take(), QStringList("FOCUS Command1(0)"));
+    }
+
     // Last, since no event loop runs after the program has ended.
     void leaving_closes_every_window_and_ends_the_program()
     {

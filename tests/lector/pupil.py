@@ -81,9 +81,15 @@ def brailled(kind, text, braille):
     return [Brailled(utterance, braille) for utterance in utterances(kind, text)]
 
 
+class Announced(Brailled):
+    """What the program itself has to say."""
+
+
 def said(text):
     """An announcement. Of a single character, see "echo"."""
-    return brailled("announcement", text, text)[:None if OLD or len(text) > 1 else 0]
+    if not OLD and len(text) == 1:
+        return []
+    return [Announced(utterance, text) for utterance in utterances("announcement", text)]
 
 
 def window(title):
@@ -142,7 +148,11 @@ def echo(character):
 
 SUBMENU_HELP = utterances("submenu with dots", "Combinaciones de teclas")[0]
 CREDITS = utterances("submenu with dots", "Acerca de")[0]
-ENGLISH = r"\b(button|push|text|frame|box|window|dialog|menu bar|read only|checked|selected|label|blank|ok|cancel|yes)\b|[&<>{}]"
+MENU = ["Representación gráfica", "Expresa con fracciones", "Fracción de una cantidad",
+        "Descomposición en factores primos", "Ordenar fracciones", "Conversión al mismo denominador", "Suma de fracciones",
+        "Diferencia de fracciones", "Producto de fracciones", "Cociente de fracciones", "Completa la serie", "Salir"]
+ENGLISH = r"\b(button|push|text|frame|box|window|dialog|menu bar|read only|checked|selected|label|blank|ok|cancel|yes)\b"
+MARKS = r"[&<>{}]"  # of captions and of the toolkit's own texts
 
 
 class Lesson(unittest.TestCase):
@@ -150,7 +160,7 @@ class Lesson(unittest.TestCase):
 
     def setUp(self):
         self.session = Session()
-        self.brailled = []
+        self.expected = []
         self.addCleanup(self.close)
 
     def close(self):
@@ -159,21 +169,32 @@ class Lesson(unittest.TestCase):
         self.session.close(keep=failed)
 
     def tearDown(self):
-        """Of a whole lesson: nothing was English or made of the program's inner workings, and braille showed, in the same
-        order, all that was heard of messages and boxes."""
+        """Of a whole lesson, also of what no single expectation looked at: nothing was English or made of the program's
+        inner workings, each announcement was heard to its end and as often as it was made, and braille showed, in the
+        same order, all that was heard of messages and boxes."""
         if not self._outcome.success:
             return
-        for text in self.session.all_heard():
-            if len(text) < 8 and not OLD:
-                continue  # may be a single character, see "echo"
+        begun, ended = self.session.all_heard()
+        for text in begun:
             self.assertIsNone(re.search(ENGLISH, text, re.IGNORECASE), text)
+            if OLD or len(text) >= 8:  # shorter ones may be made of a single character, see "echo"
+                self.assertIsNone(re.search(MARKS, text), text)
+        for text in {text for text in self.expected if isinstance(text, Announced)}:
+            times = self.expected.count(text)
+            self.assertEqual((begun.count(text), ended.count(text)), (times, times), text)
         self.session.end_reader()  # which writes its log late
         lines = self.session.braille()
         line = 0
-        for text in self.brailled:
+        for text in (text.braille for text in self.expected if isinstance(text, Brailled)):
             found = next((i for i in range(line, len(lines)) if text in lines[i]), None)
             self.assertIsNotNone(found, f"{text!r} not in {lines[line:]}")
             line = found
+
+    def hear(self, at_least=0):
+        """What was heard since the last call, at least so many texts; for the caller to judge."""
+        heard = self.session.heard(at_least)
+        self.expected += [text for text in heard if not text.endswith(" [cut]")]
+        return heard
 
     def expect(self, *parts):
         """What was heard since the last call is exactly this, each text once and to its end."""
@@ -184,7 +205,7 @@ class Lesson(unittest.TestCase):
             if isinstance(text, Perhaps):
                 text.drop_from(heard)
         self.assertEqual(heard, certain)
-        self.brailled += [text.braille for text in certain if isinstance(text, Brailled)]
+        self.expected += certain
 
     def press(self, key, *parts):
         self.session.press(key)
@@ -199,34 +220,29 @@ class Lesson(unittest.TestCase):
         """Opens a screen from the menu, whose first box is called `first`."""
         self.session.run(program)
         self.session.wait_heard("botón")
-        texts = self.session.heard()
-        for _ in range(12):
-            if texts[-1:] == button(name):
-                break
-            self.session.press("Tab")
-            texts = self.session.heard(1)
-        self.assertEqual(texts[-1:], button(name))
+        self.expect_window("KELVORA", button(MENU[0]))
+        for entry in MENU[1:MENU.index(name) + 1]:
+            self.press("Tab", button(entry))
         self.session.press("Return")
         self.session.wait_heard(first)
 
     def type(self, digits, replacing=False):
-        """Types a number, perhaps over a selection; the voice echoes the last digit, and those before it where the next
-        key does not come first."""
-        self.session.type(digits)
-        echoed = [text.removesuffix(" [cut]").strip() for text in self.session.heard()]
+        """Types a number, perhaps over a selection, and hears each character."""
+        for count, digit in enumerate(digits, 1):
+            self.session.type(digit)
+            if OLD:
+                self.session.await_heard(count)
+        heard = self.hear()
         if replacing:
-            echoed = [text for text in echoed if text != "Selección eliminada."]
+            heard = [text for text in heard if text.removesuffix(" [cut]") != "Selección eliminada."]
         if OLD:
-            expected = ["guión" if digit == "-" else digit for digit in digits]
-            self.assertEqual(echoed[-1:], expected[-1:])
-            remaining = iter(expected)
-            self.assertTrue(all(digit in remaining for digit in echoed), f"{echoed} of {expected}")
+            self.assertEqual(heard, [text for digit in digits for text in echo("guión" if digit == "-" else digit)])
 
     def expect_input(self, title, prompt, offered):
         """An input box has opened by a key."""
         box = editable_selected(prompt, offered) if offered else editable(prompt, "")
         self.session.wait_heard(box[-1])
-        heard = self.session.heard()
+        heard = self.hear()
         if OLD and heard[:2] == selected(offered):
             heard = heard[2:]  # Qt selects the text before the box is there, and Orca may hear of that first
         if OLD:
@@ -239,7 +255,7 @@ class Lesson(unittest.TestCase):
     def press_return_for_box(self, title, text):
         """Presses Enter, which opens a message box."""
         self.session.press("Return")
-        heard = self.session.heard(3)
+        heard = self.hear(3)
         if OLD:
             self.assertEqual(heard, [f"alerta {title}.", text] + button("Aceptar"))
         else:

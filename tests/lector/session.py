@@ -231,8 +231,10 @@ class Session:
         subprocess.run(["xdotool", "type", "--delay", "120", "--", text], env=self.env, check=True)
 
     def all_heard(self):
-        """All texts that the voice has begun since the reader was there."""
-        return [line[6:] for line in self._lines() if line.startswith("START ") and is_text(line[6:])]
+        """All texts since the voice was there: those that it has begun, and those that it has spoken to their end."""
+        lines = self._lines()
+        return tuple([line.removeprefix(mark) for line in lines if line.startswith(mark) and is_text(line.removeprefix(mark))]
+                     for mark in ("START ", "END "))
 
     def language(self):
         """The language that the program tells of itself on the accessibility bus."""
@@ -246,13 +248,17 @@ class Session:
         """The texts that the voice has begun since the last `heard`, which will give them again."""
         return [line[6:] for line in self._lines()[self._read:] if line.startswith("START ")]
 
-    def heard(self, at_least=0):
-        """The texts spoken since the last call; one that was cut off ends in "[cut]". Waits until there are `at_least`
-        so many, or the limit has passed, and then until the voice has been quiet for a while."""
+    def await_heard(self, at_least):
+        """Waits until so many texts have been spoken to their end since the last `heard`, or the limit has passed."""
         try:
             wait_for(lambda: sum(line.startswith("END ") for line in self._lines()[self._read:]) >= at_least, "", 10)
         except NotReady:
             pass  # the caller sees what is missing
+
+    def heard(self, at_least=0):
+        """The texts spoken since the last call; one that was cut off ends in "[cut]". Waits until there are `at_least`
+        so many, or the limit has passed, and then until the voice has been quiet for a while."""
+        self.await_heard(at_least)
         last = None
         since = time.monotonic()
         while last is None or time.monotonic() - since < QUIET or self._speaking(last):

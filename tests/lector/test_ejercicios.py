@@ -54,7 +54,7 @@ class Cantidad(ExerciseLesson):
 
         # Wrong, and the answer is selected for the next try.
         self.session.press("alt+r")
-        self.assertEqual([text for text in self.session.heard(1) if text.strip() != "r"], editable("Resultado", ""))
+        self.assertEqual([text for text in self.hear(1) if text.strip() != "r"], editable("Resultado", ""))
         self.type("0")
         self.press("Return", selected("0"), said("Resultado incorrecto"))
         self.type(f"{result}", replacing=True)
@@ -80,16 +80,16 @@ class Cantidad(ExerciseLesson):
         self.expect_input("Introducir fracción", "Introduzca el denominador de la fracción:",
                           f"{PARTS.index(match[2])}")
         self.session.press("Escape")
-        self.session.heard(1)
+        self.hear(1)
         self.session.press("F3")
         self.expect_input("Introducir cantidad", "Introduzca la cantidad:", f"{CARDINALS.index(match[3])}")
         self.type("1", replacing=True)
         self.session.press("Return")
         self.session.wait_heard("desea continuar")
-        self.session.heard()
+        self.hear()
         self.session.press("alt+s")
         self.session.wait_heard(" de un")
-        self.session.heard()
+        self.hear()
         self.press("alt+F4", window_again("KELVORA"), button(self.name))
 
 
@@ -112,7 +112,7 @@ class Representacion(ExerciseLesson):
             self.press("Tab", button(f"{part} - verde"))
             self.session.press("space")
             expected = renamed(f"{part} - rojo")
-            heard = self.session.heard(len(expected))
+            heard = self.hear(len(expected))
             self.assertEqual([text for text in heard if not text.startswith("espacio")], expected)
 
     def test_a_lesson(self):
@@ -125,7 +125,7 @@ class Representacion(ExerciseLesson):
         self.press("alt+p", editable("Partes en total:", ""))
         self.session.type("12")
         self.session.wait_heard("10")
-        self.assertIn(said("10")[-1], self.session.heard())
+        self.assertIn(said("10")[-1], self.hear())
         self.press("alt+h", button("Hecho"), said("Respuesta incorrecta"))
         self.press("alt+b", editable("Partes en total:", ""))
 
@@ -186,7 +186,7 @@ class Ordenar(ExerciseLesson):
     def hear_fraction(self):
         """Goes on to the next fraction; its words, numerator and denominator."""
         self.session.press("Tab")
-        words = self.session.heard(1)[0]
+        words = self.hear(1)[0]
         numerator, part = re.match(r"(\w+) (\w+?)s? botón", words).groups()
         words = words[:words.index(" botón")]
         self.assertEqual(button(words), [words + button("")[0]])
@@ -209,11 +209,11 @@ class Ordenar(ExerciseLesson):
                 self.press("shift+Tab", button(row[i][0]))
         self.press("alt+h", button("Continuar"), said(" Resultado correcto"))
         self.session.press("alt+v")
-        self.session.heard(1)
+        self.hear(1)
         self.press("alt+h", button("Continuar"), said(" Resultado correcto "))
         # The first fraction of the next exercise. Orca 48 hears of its new name and of the focus, and may begin it twice.
         self.session.press("Return")
-        heard = [text.removesuffix(" [cut]") for text in self.session.heard(1)]
+        heard = [text.removesuffix(" [cut]") for text in self.hear(1)]
         self.assertRegex(heard[-1], r"^\w+( y \w+)? \w+ botón")
         self.assertIn(heard[:-1], [[]] if OLD else [[], heard[-1:]])
         self.press("alt+F4", window_again("KELVORA"), button(self.name))
@@ -229,7 +229,7 @@ class Conversion(ExerciseLesson):
         given = []
         for i, box in enumerate(self.boxes):
             self.session.press("Tab")
-            heard = self.session.heard(3 if i == 0 else 2)
+            heard = self.hear(3 if i == 0 else 2)
             given.append(int(heard[-1].removesuffix(".")))
             self.assertEqual(heard, (group("Iniciales") if i == 0 else []) + locked(f"{box} inicial", f"{given[-1]}"))
         a, b, c, d = given
@@ -259,7 +259,7 @@ class Series(ExerciseLesson):
         for term in range(1, 5):
             for part, values in (("Numerador", above), ("Denominador", below)):
                 self.session.press("Tab")
-                heard = self.session.heard(2)
+                heard = self.hear(2)
                 values.append(int(heard[-1].removesuffix(".")))
                 self.assertEqual(heard, editable(f"{part} del término {term}", f"{values[-1]}"))
         self.press("7", echo("7"), said(f"{below[3]}"))  # a term that is given stays
@@ -279,7 +279,7 @@ class Series(ExerciseLesson):
         self.press("Return", editable("Numerador del término 5", ""))
         self.press("alt+c", editable("Numerador del término 6", ""))
         self.session.press("alt+v")
-        self.assertRegex(self.session.heard(len(said("xx")))[-1], r"^Numerador del término 6 \d+\.?$")
+        self.assertRegex(self.hear(len(said("xx")))[-1], r"^Numerador del término 6 \d+\.?$")
         self.press("alt+F4", window_again("KELVORA"), button(self.name))
 
 
@@ -293,7 +293,7 @@ class Factores(ExerciseLesson):
     def hear_value(self):
         """Goes on to the value; what it is."""
         self.session.press("Tab")
-        heard = self.session.heard(2)
+        heard = self.hear(2)
         value = heard[-1].removesuffix(" seleccionado.")
         self.assertEqual(heard, editable_selected("Valor", value))
         return int(value)
@@ -302,7 +302,7 @@ class Factores(ExerciseLesson):
         """Steps from character to character, hearing each."""
         for _ in range(times):
             self.session.press(key)
-            self.session.heard(1 if OLD else 0)
+            self.hear(1 if OLD else 0)
 
     def write_divisors(self, divisors):
         """Writes them below each other, from the caret on, hearing each row whole."""
@@ -318,7 +318,7 @@ class Factores(ExerciseLesson):
         while value == 1:  # which an empty ladder solves
             self.press("alt+c", self.ladder(self.empty_row))
             self.session.press("shift+Tab", "shift+Tab")
-            self.session.heard()
+            self.hear()
             value = self.hear_value()
         self.press("Tab", self.ladder(self.empty_row))
 
@@ -332,11 +332,11 @@ class Factores(ExerciseLesson):
         self.press("alt+b", self.ladder(self.empty_row))
         self.type(f"9{value}")
         self.session.press("BackSpace")
-        self.session.heard()
+        self.hear()
         self.session.press("Home")
-        self.session.heard()
+        self.hear()
         self.session.press("Delete")
-        self.session.heard()
+        self.hear()
         self.type(f"{value}")
         self.go("Right", 5 - len(f"{value}"))
         self.press("6", echo("6"), said(f"{value:<5}|    "))

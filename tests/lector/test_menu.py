@@ -6,21 +6,27 @@ from pupil import *
 
 
 class Menu(Lesson):
-    def test_the_credits_are_heard(self):
-        self.session.run(PROGRAM)
+    def test_a_round_and_the_credits(self):
+        program = self.session.run(PROGRAM)
         self.session.wait_heard("botón")
-        self.expect(window("KELVORA"), button("Representación gráfica"))
+        self.expect_window("KELVORA", button(MENU[0]))
         self.assertEqual(self.session.language(), "es_ES")
+        for name in MENU[1:] + MENU[:1]:
+            self.press("Tab", button(name))
         self.press("Alt_L", [CREDITS])
         self.session.press("Return")
         self.session.wait_heard("Aceptar")
-        texts = self.session.heard()
+        texts = self.hear()
         self.assertEqual(texts[-1:], button("Aceptar"))
         if OLD:
             self.assertEqual(texts[0], "alerta Kelvora.")
             self.assertIn("Autores", texts[1])
             self.assertEqual(len(texts), 3)
         self.assertTrue(self.session.presented("alerta Kelvora."))
+        self.press("Return", window_again("KELVORA"), button(MENU[0]))
+        self.press("shift+Tab", button("Salir"))
+        self.session.press("Return")
+        self.assertEqual(program.wait(20), 0)
 
 
 if __name__ == "__main__":
