@@ -115,7 +115,8 @@ void Form1::MnuAce_Click()
 {
     ui::MsgBox("Kelvora: ejercicios de fracciones.\r\n"
                "Autores: el equipo de Kelvora.\r\n"
-               "Contacto: el repositorio del proyecto, en sus incidencias.");
+               "Contacto: el repositorio del proyecto, en sus incidencias.\r\n"
+               "Versión " KELVORA_VERSION ".");
 }
 
 } // namespace app

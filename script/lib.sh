@@ -10,23 +10,24 @@ is_installed() {
     [ "$(dpkg-query -W -f='${db:Status-Status}' "$1" 2>/dev/null)" = installed ]
 }
 
+as_root() {
+    if [ "$(id -u)" -eq 0 ]; then "$@"; else sudo "$@"; fi
+}
+
 # need PACKAGE...: installs what is missing of Debian's packages.
 need() {
     command -v dpkg-query >/dev/null || fail "este programa instala sus dependencias solo en Debian 12 o posterior"
-    local missing=() package log root=()
+    local missing=() package log
     for package in "$@"; do
         is_installed "$package" || missing+=("$package")
     done
     [ ${#missing[@]} -eq 0 ] && return
-    if [ "$(id -u)" -ne 0 ]; then
-        command -v sudo >/dev/null ||
-            fail "faltan paquetes y para instalarlos se necesita ser root o tener sudo: ${missing[*]}"
-        root=(sudo)
-    fi
+    [ "$(id -u)" -eq 0 ] || command -v sudo >/dev/null ||
+        fail "faltan paquetes y para instalarlos se necesita ser root o tener sudo: ${missing[*]}"
     echo "Instalando: ${missing[*]}"
     log=$(mktemp)
-    "${root[@]}" apt-get update >"$log" 2>&1 &&
-        "${root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y --no-install-recommends "${missing[@]}" \
+    as_root apt-get update >"$log" 2>&1 &&
+        as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y --no-install-recommends "${missing[@]}" \
             >>"$log" 2>&1 </dev/null ||
         fail "no se ha podido instalar: ${missing[*]} (detalles en $log)"
     rm -f "$log"
@@ -38,7 +39,8 @@ if [ "$(. /etc/os-release && echo "${VERSION_ID:-13}")" -ge 13 ]; then
     run_packages+=(fonts-liberation-sans-narrow) # before, in fonts-liberation
 fi
 test_packages=(qt6-base-private-dev strace xvfb openbox xdotool dbus-daemon locales python3 orca speech-dispatcher
-    speech-dispatcher-audio-plugins python3-speechd python3-pyatspi)
+    speech-dispatcher-audio-plugins python3-speechd python3-pyatspi x11-utils
+    pandoc librsvg2-bin desktop-file-utils appstream tidy man-db)
 
 # build PRESET: configures what is not, and builds what is not up to date.
 build() {

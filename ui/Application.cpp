@@ -5,6 +5,7 @@
 #include "Entero16.h"
 #include "Look.h"
 
+#include <QIcon>
 #include <QKeyEvent>
 #include <QLibraryInfo>
 #include <QLocale>
@@ -17,7 +18,8 @@ namespace ui {
 Application::Application(int& argc, char** argv) : QApplication(argc, argv)
 {
     setApplicationName("Kelvora");
-    setDesktopFileName("kelvora");
+    setDesktopFileName("org.kelvora.kelvora");
+    setWindowIcon(QIcon::fromTheme(desktopFileName()));
     // Told to the screen reader as the language of the application, whatever the desktop's is.
     QLocale::setDefault(QLocale(QLocale::Spanish, QLocale::Spain));
     // For Qt's own texts, such as the context menus of text boxes; a system without the file has them in English.

@@ -1,10 +1,11 @@
-// Takes the documentation's pictures from the program: the menu, the sum after a wrong answer, and all twelve windows
-// at three sizes in a light and a dark theme, side by side. Its argument is the folder that they go to.
+// Takes the documentation's pictures from the program: those of the manual, and all twelve windows at three sizes in a
+// light and a dark theme, side by side. Its argument is the folder that they go to.
 #include "Application.h"
 #include "Random.h"
 #include "Support.h"
 #include "Windows.h"
 
+#include <QAbstractButton>
 #include <QLineEdit>
 #include <QPainter>
 #include <QStyle>
@@ -48,6 +49,44 @@ void AnswerWrongly(const ui::Form& form)
     support::Type("8");
     support::Press(Qt::Key_Return);
     support::Settle();
+}
+
+void ShowSolution(const ui::Form& form)
+{
+    support::Child<QAbstractButton>(form, "Command2(2)").click();
+}
+
+void ShowLetters(const ui::Form& form)
+{
+    support::Child<QWidget>(form, "Command1").setFocus();
+    support::Press(Qt::Key_L);
+}
+
+struct ManualPicture
+{
+    std::string_view window;
+    const char* file = nullptr;
+    void (*use)(const ui::Form& form) = [](const ui::Form&) {};
+};
+
+constexpr ManualPicture manual[]{
+    {.window = "Form1", .file = "menu"},
+    {.window = "Form2", .file = "suma", .use = AnswerWrongly},
+    {.window = "FormConversion", .file = "conversion"},
+    {.window = "FormOrdenar", .file = "ordenar"},
+    {.window = "FormFactores", .file = "factores", .use = ShowSolution},
+    {.window = "FormCantidad", .file = "cantidad"},
+    {.window = "FormFichas", .file = "fichas", .use = ShowLetters},
+    {.window = "FormRepresentacion", .file = "representacion", .use = ShowSolution},
+    {.window = "FormSeries", .file = "series"},
+};
+
+bool SaveManual(const QString& folder)
+{
+    return std::ranges::all_of(manual, [&folder](const ManualPicture& picture) {
+        const auto* window = std::ranges::find(support::windows, picture.window, &support::Window::name);
+        return Picture(*window, 1, picture.use).save(folder + picture.file + ".png");
+    });
 }
 
 // A row for each window, and in it each theme's pictures from small to large.
@@ -103,9 +142,5 @@ int main(int argc, char** argv)
     ui::Application application(argc, argv);
     ui::Application::setQuitOnLastWindowClosed(false);
     const QString folder = QApplication::arguments().value(1, ".");
-    const auto sum = std::ranges::find(support::windows, std::string_view("Form2"), &support::Window::name);
-    const bool saved = Picture(support::windows.front(), 1, [](const ui::Form&) {}).save(folder + "/menu.png") &&
-                       Picture(*sum, 1, AnswerWrongly).save(folder + "/suma.png") &&
-                       Sheet().save(folder + "/ventanas.png");
-    return saved ? EXIT_SUCCESS : EXIT_FAILURE;
+    return SaveManual(folder + "/manual/") && Sheet().save(folder + "/ventanas.png") ? EXIT_SUCCESS : EXIT_FAILURE;
 }

@@ -2,8 +2,10 @@
 #include "Support.h"
 
 #include <QAction>
+#include <QFile>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QTimer>
 
 using namespace support;
@@ -251,11 +253,18 @@ private slots:
 
     void shows_the_credits()
     {
+        QFile changelog(CHANGELOG);
+        QVERIFY(changelog.open(QIODevice::ReadOnly));
+        const auto release =
+            QRegularExpression(R"(^## \[([\d.]+)\] - \d{4}-\d\d-\d\d$)", QRegularExpression::MultilineOption)
+                .match(changelog.readAll());
+        QVERIFY(release.hasMatch());
         WithDialog([this] { Child<QAction>(*m_menu, "MnuAce").trigger(); },
-                   [](QWidget& dialog) {
+                   [&release](QWidget& dialog) {
                        const auto& box = dynamic_cast<QMessageBox&>(dialog);
                        QVERIFY(box.text().contains("Autores"));
                        QVERIFY(box.text().contains("Contacto"));
+                       QCOMPARE(box.text().section("\r\n", -1), "Versión " + release.captured(1) + ".");
                        QCOMPARE(box.buttons().size(), 1);
                        QTest::keyClick(&dialog, Qt::Key_Return);
                    });
