@@ -49,6 +49,7 @@ for line in sys.stdin:
     for code in held:
         xtest.XTestFakeKeyEvent(display, code, 1, 0)
     xlib.XFlush(display)
+    settle(0.05)  # a finger holds Alt before another presses the letter
     heard.clear()
     start = time.monotonic()
     for code, down in [(key, 1), (key, 0)] + [(code, 0) for code in held]:
