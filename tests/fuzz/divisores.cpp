@@ -1,0 +1,51 @@
+// What is read out of a ladder that may hold any text, and what is made of it.
+#include "Escalera.h"
+#include "Fuzz.h"
+
+#include <algorithm>
+#include <string>
+
+namespace {
+
+std::array<int, ejercicios::filasEscalera> Sorted(const ejercicios::Divisores& divisors)
+{
+    std::array<int, ejercicios::filasEscalera> numbers{};
+    std::ranges::transform(divisors, numbers.begin(), [](numeros::Entero16 number) { return number.Valor(); });
+    std::ranges::sort(numbers);
+    return numbers;
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    Input input(data, size);
+    std::u16string text;
+    while (!input.IsEmpty()) {
+        const std::uint8_t byte = input.Byte();
+        text += static_cast<char16_t>(byte < 128 ? byte : 256 * input.Byte() + byte);
+    }
+    try {
+        ejercicios::Divisores divisors = ejercicios::Escalera(text, 0).LeerDivisores();
+        const auto rows = std::ranges::count(text, u'\n');
+        for (std::size_t i = static_cast<std::size_t>(std::min<std::ptrdiff_t>(rows, ejercicios::filasEscalera));
+             i < divisors.size(); ++i) {
+            EXPECT(divisors.at(i) == 0);
+        }
+        const auto before = Sorted(divisors);
+        ejercicios::Ordenar(divisors);
+        EXPECT(Sorted(divisors) == before);
+        (void)ejercicios::Lista(divisors);
+        int product = ejercicios::Producto(divisors).Valor();
+        for (const numeros::Entero16 divisor : divisors) {
+            if (divisor.Valor() < 2) {
+                break;
+            }
+            EXPECT(product % divisor.Valor() == 0);
+            product /= divisor.Valor();
+        }
+        EXPECT(product == 1);
+    } catch (const numeros::Desbordamiento&) { // a number too large, as told
+    }
+    return 0;
+}
