@@ -42,12 +42,13 @@ test_packages=(qt6-base-private-dev strace xvfb openbox xdotool dbus-daemon loca
     speech-dispatcher-audio-plugins python3-speechd python3-pyatspi x11-utils
     pandoc librsvg2-bin desktop-file-utils appstream tidy man-db)
 
-# build PRESET: configures what is not, and builds what is not up to date.
+# build PRESET [TARGET...]: configures what is not, and builds what is not up to date.
 build() {
     local preset=$1 log
+    shift
     log=build/$preset.log
     mkdir -p build
     { [ -f "build/$preset/build.ninja" ] || cmake --preset "$preset"; } >"$log" 2>&1 &&
-        cmake --build --preset "$preset" >>"$log" 2>&1 ||
+        cmake --build --preset "$preset" ${1:+--target "$@"} >>"$log" 2>&1 ||
         { tail -n 40 "$log" >&2; fail "la compilación ha fallado (todo en $log)"; }
 }

@@ -37,6 +37,9 @@ public:
     // The announcements among it, without "SAY ".
     QStringList TakeSaid();
 
+    // All that was told since the last call, whatever is still pending.
+    static QStringList TakeSoFar() { return std::exchange(s_heard, {}); }
+
 private:
     static void Hear(QAccessibleEvent* event);
 
