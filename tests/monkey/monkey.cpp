@@ -15,7 +15,6 @@
 #include <QRegularExpression>
 #include <QTimer>
 
-#include <deque>
 #include <map>
 #include <random>
 
@@ -199,7 +198,11 @@ private:
         QWidget* widget = widgets.at(Below(widgets.size()));
         if (widget->isVisible() && widget->window() == &window) {
             Note("click " + widget->objectName());
-            QTest::mouseClick(widget, Qt::LeftButton);
+            const QPointer<QWidget> pressed(widget);
+            QTest::mousePress(widget, Qt::LeftButton);
+            if (pressed) { // the press may have closed its window
+                QTest::mouseRelease(widget, Qt::LeftButton);
+            }
         }
     }
 
@@ -253,7 +256,7 @@ private:
     void Look()
     {
         const QStringList said = support::Ear::TakeSoFar().filter(QRegularExpression("^(SAY|INTERRUPT) "));
-        if (said.size() > 1 || said.filter("INTERRUPT").size() > 0) {
+        if (said.size() > 1 || !said.filter("INTERRUPT").isEmpty()) {
             Fail("told: " + said.join(" / "));
         }
         m_said += static_cast<int>(said.size());
@@ -327,18 +330,15 @@ private:
 
     void Note(const QString& what)
     {
-        m_last.push_back(QString("%1 %2").arg(m_done).arg(what));
+        m_last += (QString("%1 %2").arg(m_done).arg(what));
         if (m_last.size() > 20) {
-            m_last.pop_front();
+            m_last.removeFirst();
         }
     }
 
     [[noreturn]] void Fail(const QString& what)
     {
-        for (const QString& line : m_last) {
-            qWarning("%s", qPrintable(line));
-        }
-        qFatal("%s\nagain: monkey %u %d", qPrintable(what), m_seed, m_events);
+        qFatal("%s\n%s\nagain: monkey %u %d", qPrintable(m_last.join("\n")), qPrintable(what), m_seed, m_events);
     }
 
     struct Known
@@ -363,7 +363,7 @@ private:
     int m_turn = -1;
     QList<std::pair<QPointer<QLineEdit>, QString>> m_given; // before the event
     std::map<const QWidget*, Known> m_scores;
-    std::deque<QString> m_last;
+    QStringList m_last;
 };
 
 } // namespace
