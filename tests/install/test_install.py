@@ -7,13 +7,15 @@ import pathlib
 import shutil
 import struct
 import subprocess
+import sys
 import tempfile
-import time
 import unittest
 import xml.etree.ElementTree
 
+sys.path.insert(0, str(pathlib.Path(__file__).parent.parent / "support"))
+from desktop import LIMIT, Desktop
+
 ID = "org.kelvora.kelvora"
-LIMIT = 30  # seconds to wait for anything at all; only a failure takes that long
 
 
 def output(*command, **options):
@@ -96,36 +98,13 @@ class Installed(unittest.TestCase):
         self.assertEqual({link.removeprefix("#") for link in page.links} - page.names, set())
 
     def test_the_program_runs_from_its_folder(self):
-        env = {key: os.environ[key] for key in ("PATH", "HOME") if key in os.environ}
-        read, write = os.pipe()
-        self.start(env, "Xvfb", "-displayfd", str(write), "-screen", "0", "1366x768x24", "-nolisten", "tcp",
-                   pass_fds=[write])
-        os.close(write)
-        with os.fdopen(read) as pipe:
-            env["DISPLAY"] = f":{pipe.readline().strip()}"
-        self.start(env, "openbox", "--sm-disable")
-        self.wait_for(env, "window id", "xprop", "-root", "_NET_SUPPORTING_WM_CHECK")
-        program = self.start(env, self.root / "bin/kelvora", cwd="/")
-        window = self.wait_for(env, "", "xdotool", "search", "--onlyvisible", "--name", "^KELVORA$")
-        self.assertIn(f'"{self.entry["StartupWMClass"]}"', output("xprop", "-id", window, "WM_CLASS", env=env))
-        output("xdotool", "windowactivate", "--sync", window, "key", "shift+Tab", "Return", env=env)
+        desktop = Desktop()
+        self.addCleanup(desktop.close)
+        program = desktop.start(self.root / "bin/kelvora", cwd="/")
+        window = desktop.wait_window("KELVORA")
+        self.assertIn(f'"{self.entry["StartupWMClass"]}"', desktop.output("xprop", "-id", window, "WM_CLASS"))
+        desktop.press("shift+Tab", "Return")
         self.assertEqual(program.wait(LIMIT), 0)
-
-    def wait_for(self, env, text, *command):
-        """Runs a command until it succeeds and says `text`; all that it says."""
-        end = time.monotonic() + LIMIT
-        while time.monotonic() < end:
-            done = subprocess.run(command, env=env, capture_output=True, text=True)
-            if done.returncode == 0 and text in done.stdout:
-                return done.stdout.strip()
-            time.sleep(0.1)
-        self.fail(f"waited {LIMIT} s for {command}")
-
-    def start(self, env, *command, **options):
-        child = subprocess.Popen(command, env=env, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, **options)
-        self.addCleanup(child.wait)
-        self.addCleanup(child.terminate)
-        return child
 
 
 if __name__ == "__main__":

@@ -124,7 +124,8 @@ class Session:
         self._read = 0
         try:
             self._start_desktop()
-            self._start_reader()
+            self._set_reader()
+            self.start_reader()
         except BaseException:
             self.close(keep=True)
             raise
@@ -156,7 +157,7 @@ class Session:
             raise NotReady("Xvfb did not start")
         self.env["DISPLAY"] = f":{number}"
         self._start("openbox", "openbox", "--sm-disable")
-        self._start("bus", "/usr/libexec/at-spi-bus-launcher", "--launch-immediately", "--a11y=1", "--screen-reader=1")
+        self._bus = self._start("bus", "/usr/libexec/at-spi-bus-launcher", "--launch-immediately", "--a11y=1", "--screen-reader=1")
         conf = self.home / "speechd"
         (conf / "modules").mkdir(parents=True)
         (conf / "clients").mkdir()
@@ -172,11 +173,13 @@ class Session:
                     str(self.home))
         wait_for(lambda: list(runtime.glob("speech-dispatcher/speechd.sock")), "Speech Dispatcher")
 
-    def _start_reader(self):
+    def _set_reader(self):
         settings = self.home / ".local/share/orca/user-settings.conf"
         settings.parent.mkdir(parents=True)
         settings.write_text(json.dumps({"general": ORCA_SETTINGS, "pronunciations": {}, "keybindings": {}, "profiles": {
             "default": ORCA_SETTINGS | {"profile": ["Default", "default"], "pronunciations": {}, "keybindings": {}}}}))
+
+    def start_reader(self):
         for _ in range(5):  # it does not always come up at once
             before = self.transcript.read_text().count(READY)
             self._reader = self._start("orca-output", "/usr/bin/python3", "/usr/bin/orca", "--replace",
@@ -194,6 +197,9 @@ class Session:
 
     def end_reader(self):
         self._end(self._reader)
+
+    def end_bus(self):
+        self._end(self._bus)
 
     def braille(self):
         """The lines that a braille display has shown, in order."""

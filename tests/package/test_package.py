@@ -2,26 +2,16 @@
 
 import os
 import pathlib
-import re
 import subprocess
-import tempfile
-import time
+import sys
 import unittest
 
-LIMIT = 30  # seconds to wait for anything at all; only a failure takes that long
+sys.path.insert(0, str(pathlib.Path(__file__).parent.parent / "support"))
+from desktop import Desktop, wait_for
+
 ENTRY = "/usr/share/applications/org.kelvora.kelvora.desktop"
 # What packages and programs of the system itself write at any time.
 ELSEWHERE = ("/proc", "/sys", "/dev", "/run", "/tmp", "/kelvora", "/var/log", "/var/lib/dpkg", "/var/cache")
-
-
-def wait_for(condition, what):
-    end = time.monotonic() + LIMIT
-    while time.monotonic() < end:
-        value = condition()
-        if value:
-            return value
-        time.sleep(0.1)
-    raise AssertionError(f"waited {LIMIT} s for {what}")
 
 
 def files():
@@ -65,26 +55,13 @@ def box_texts(window):
 
 class Package(unittest.TestCase):
     def setUp(self):
-        os.environ["XDG_RUNTIME_DIR"] = tempfile.mkdtemp()
-        read, write = os.pipe()
-        self.start("Xvfb", "-displayfd", str(write), "-screen", "0", "1366x768x24", "-nolisten", "tcp", pass_fds=[write])
-        os.close(write)
-        with os.fdopen(read) as pipe:
-            os.environ["DISPLAY"] = f":{pipe.readline().strip()}"
-        self.start("openbox", "--sm-disable")
-        wait_for(lambda: "window id" in run("xprop", "-root", "_NET_SUPPORTING_WM_CHECK"), "the window manager")
-        self.start("/usr/libexec/at-spi-bus-launcher", "--launch-immediately", "--a11y=1", "--screen-reader=1")
-        os.environ["QT_LINUX_ACCESSIBILITY_ALWAYS_ON"] = "1"
+        self.desktop = Desktop(HOME=os.environ["HOME"], QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1",
+                               DBUS_SESSION_BUS_ADDRESS=os.environ["DBUS_SESSION_BUS_ADDRESS"])
+        self.addCleanup(self.desktop.close)
+        self.desktop.start("/usr/libexec/at-spi-bus-launcher", "--launch-immediately", "--a11y=1", "--screen-reader=1")
+        os.environ |= self.desktop.env  # for what asks the bus here
         import gi
         gi.require_version("Atspi", "2.0")
-
-    def start(self, *command, **options):
-        child = subprocess.Popen(command, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, **options)
-        self.addCleanup(child.wait)
-        self.addCleanup(child.terminate)
-
-    def press(self, *keys):
-        run("xdotool", "key", *keys)
 
     def test_is_installed_used_and_removed(self):
         before = files()
@@ -96,26 +73,23 @@ class Package(unittest.TestCase):
 
     def use(self):
         """Works one exercise, as the menu entry starts the program, and leaves it."""
-        subprocess.run(["gio", "launch", ENTRY], check=True, stdout=subprocess.DEVNULL)  # a pipe would stay open with it
-        wait_for(lambda: subprocess.run(["xdotool", "search", "--onlyvisible", "--name", "^KELVORA$"],
-                                        stdout=subprocess.DEVNULL).returncode == 0, "the menu")
-        time.sleep(1)  # until the window manager has given it the keyboard
-        self.press(*["Tab"] * 6, "Return")
+        self.desktop.start("gio", "launch", ENTRY)
+        self.desktop.wait_window("KELVORA")
+        self.desktop.press(*["Tab"] * 6, "Return")
         exercise = wait_for(lambda: box_texts("SUMA DE FRACCIONES"), "the sum")
-        reading = exercise["Mensajes"]
-        self.assertRegex(reading, r"\w+ \w+\+\w+ \w+=")
-        self.press("ctrl+Left")
+        self.assertRegex(exercise["Mensajes"], r"\w+ \w+\+\w+ \w+=")
+        self.desktop.press("ctrl+Left")
         total = sum(int(exercise[f"Numerador de la {which} fracción"]) for which in ("primera", "segunda"))
-        run("xdotool", "type", "--delay", "50", f"{total}")
-        self.press("Tab")
-        run("xdotool", "type", "--delay", "50", exercise["Denominador de la primera fracción"])
-        self.press("Return")
+        self.desktop.type(f"{total}")
+        self.desktop.press("Tab")
+        self.desktop.type(exercise["Denominador de la primera fracción"])
+        self.desktop.press("Return")
         wait_for(lambda: box_texts("SUMA DE FRACCIONES")["Resultado"] == "Resultado correcto ", "the verdict")
         self.assertEqual(box_texts("SUMA DE FRACCIONES")["Marcador"], "Ejercicios:  1; Errores:  0")
-        self.press("alt+F4")
-        wait_for(lambda: not box_texts("SUMA DE FRACCIONES"), "the sum to close")
+        self.desktop.press("alt+F4")
+        wait_for(lambda: not self.desktop.has_window("SUMA DE FRACCIONES"), "the sum to close")
         self.assertTrue(running())
-        self.press("alt+F4")
+        self.desktop.press("alt+F4")
         wait_for(lambda: not running(), "the program to end")
 
 

@@ -132,7 +132,8 @@ void WithDialogs(const std::function<void()>& action, const std::vector<DialogAn
     QTimer timer;
     QObject::connect(&timer, &QTimer::timeout, &timer, [&] {
         const QPointer<QWidget> dialog = QApplication::activeModalWidget();
-        if (!dialog || !dialog->isVisible() || dialog == answered || qobject_cast<QDialog*>(dialog) == nullptr) {
+        // Before it is active, access keys do nothing.
+        if (!dialog || !dialog->isActiveWindow() || dialog == answered || qobject_cast<QDialog*>(dialog) == nullptr) {
             return;
         }
         answered = dialog;
