@@ -40,7 +40,8 @@ if [ "$(. /etc/os-release && echo "${VERSION_ID:-13}")" -ge 13 ]; then
 fi
 test_packages=(qt6-base-private-dev strace xvfb openbox xdotool dbus-daemon locales python3 orca speech-dispatcher
     speech-dispatcher-audio-plugins python3-speechd python3-pyatspi x11-utils
-    pandoc librsvg2-bin desktop-file-utils appstream tidy man-db libbenchmark-dev libicu-dev)
+    pandoc librsvg2-bin desktop-file-utils appstream tidy man-db libbenchmark-dev libicu-dev
+    faketime x11-xserver-utils)
 
 # build PRESET [TARGET...]: configures what is not, and builds what is not up to date.
 build() {

@@ -81,7 +81,8 @@ class Alone(unittest.TestCase):
         folder = desktop.home / "bin"
         folder.mkdir()
         shutil.copy(PROGRAM, folder)
-        (folder / "qt.conf").write_text("[Paths]\nTranslations=/nonexistent\n")
+        plugins, = pathlib.Path("/usr/lib").glob("*/qt6/plugins")
+        (folder / "qt.conf").write_text(f"[Paths]\nPlugins={plugins}\nTranslations=/nonexistent\n")
         self.work(desktop, folder / "kelvora")
 
     def test_in_any_locale(self):
