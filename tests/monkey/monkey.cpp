@@ -98,7 +98,9 @@ private:
             window = QApplication::activeWindow();
             if (window == nullptr || One(20)) {
                 window = windows.at(Below(windows.size()));
+                Note("activate " + window->objectName());
                 window->activateWindow();
+                return;
             }
         }
         switch (Below(24)) {
