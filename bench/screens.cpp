@@ -111,15 +111,13 @@ void Soak(const support::Window& window, int exercises)
 {
     constexpr int perScreen = 10'000;
     constexpr int sample = 1000;
-    ui::Form* form = nullptr;
+    ui::Form* form = Open(window);
     double firstTime = 0;
     int firstMemory = 0;
     double mark = Cpu();
     for (int i = 0; i < exercises; ++i) {
-        if (i % perScreen == 0) {
-            if (form != nullptr) {
-                Close(form);
-            }
+        if (i % perScreen == perScreen - 1) {
+            Close(form);
             form = Open(window);
         }
         if (i == exercises - sample) {
