@@ -152,20 +152,8 @@ void FormFichas::Command1_Click()
 
 void FormFichas::Command2_Click(int Index)
 {
-    switch (Index) {
-    case 0:
-        DibujarFichas(true);
-        VaciarRespuesta();
-        break;
-    case 1:
-        VaciarRespuesta();
-        break;
-    case 2:
-        VerSolucion();
-        break;
-    default:
-        break;
-    }
+    constexpr std::array acciones{&FormFichas::Continuar, &FormFichas::VaciarRespuesta, &FormFichas::VerSolucion};
+    (this->*acciones.at(static_cast<std::size_t>(Index)))();
     TBFrac[0].SetFocus();
 }
 
@@ -225,6 +213,12 @@ const FormFichas::Aspecto& FormFichas::AspectoDe(int indice) const
         return roja;
     }
     return indice < (Rojas + Amarillas).Valor() ? amarilla : verde;
+}
+
+void FormFichas::Continuar()
+{
+    DibujarFichas(true);
+    VaciarRespuesta();
 }
 
 void FormFichas::VaciarRespuesta()

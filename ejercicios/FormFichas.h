@@ -25,6 +25,7 @@ private:
 
     void NuevasCantidades();
     void PonerFicha(int indice);
+    void Continuar();
     void VaciarRespuesta();
     void VerSolucion();
 

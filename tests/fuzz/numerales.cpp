@@ -1,6 +1,6 @@
 // Numbers in words: whatever the number, they are words, and the same ones again.
-#include "Fuzz.h"
 #include "Numerales.h"
+#include "Fuzz.h"
 
 #include <cmath>
 #include <cstring>

@@ -1,6 +1,6 @@
 // Numbers out of texts, against the C library's after everything that it would read otherwise has been taken away.
-#include "Fuzz.h"
 #include "Val.h"
+#include "Fuzz.h"
 
 #include <cmath>
 #include <string>
