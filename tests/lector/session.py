@@ -148,7 +148,8 @@ class Session:
                      "LANG": "es_ES.UTF-8", "LANGUAGE": "es", "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1",
                      "QT_ACCESSIBILITY": "1", "QT_QPA_PLATFORM": "xcb", "GTK_MODULES": "", "NO_AT_BRIDGE": "0"}
         read, write = os.pipe()
-        self._start("xvfb", "Xvfb", "-displayfd", str(write), "-screen", "0", "1366x768x24", "-nolisten", "tcp",
+        # Without -noreset it starts anew when its first client goes, and refuses the window manager meanwhile.
+        self._start("xvfb", "Xvfb", "-displayfd", str(write), "-screen", "0", "1366x768x24", "-nolisten", "tcp", "-noreset",
                     pass_fds=[write])
         os.close(write)
         with os.fdopen(read) as pipe:
@@ -188,12 +189,22 @@ class Session:
                 wait_for(lambda: self.transcript.read_text().count(READY) > before, "Orca", 15)
                 time.sleep(0.5)  # until it is on the bus itself
                 self._ask(PING)
+                self._read_bare_window()
                 break
             except (NotReady, subprocess.SubprocessError):
                 self._end(self._reader)
         else:
             raise NotReady(f"Orca did not start in five tries; its logs are in {self.home}")
         self.heard()
+
+    def _read_bare_window(self):
+        """Orca may hang after it has said that it is there: what it reads first is a window that is not the program's."""
+        before = len(self._lines())
+        window = self.run(os.environ["KELVORA_BARE"])
+        try:
+            wait_for(lambda: any(line.startswith("END Mensajes") for line in self._lines()[before:]), "Orca to read", 10)
+        finally:
+            self._end(window)
 
     def end_reader(self):
         self._end(self._reader)

@@ -30,7 +30,8 @@ class Desktop:
         self.env = {"PATH": os.environ["PATH"], "HOME": str(self.home), "XDG_RUNTIME_DIR": str(self.home)} | more
         self.children = []
         read, write = os.pipe()
-        self.display = self.start("Xvfb", "-displayfd", str(write), "-screen", "0", "1366x768x24", "-nolisten", "tcp",
+        # Without -noreset it starts anew when its first client goes, and refuses the window manager meanwhile.
+        self.display = self.start("Xvfb", "-displayfd", str(write), "-screen", "0", "1366x768x24", "-nolisten", "tcp", "-noreset",
                                   pass_fds=[write])
         os.close(write)
         with os.fdopen(read) as pipe:
