@@ -12,7 +12,6 @@ import sys
 
 sys.path.insert(0, str(pathlib.Path(__file__).parent.parent / "tests/lector"))
 os.environ.setdefault("KELVORA_QT", "6.8")  # of the reader's habits nothing is asked here
-os.environ["KELVORA_BARE"] = sys.argv[2]
 from session import Session
 
 ROUNDS = 4

@@ -189,22 +189,12 @@ class Session:
                 wait_for(lambda: self.transcript.read_text().count(READY) > before, "Orca", 15)
                 time.sleep(0.5)  # until it is on the bus itself
                 self._ask(PING)
-                self._read_bare_window()
                 break
             except (NotReady, subprocess.SubprocessError):
                 self._end(self._reader)
         else:
             raise NotReady(f"Orca did not start in five tries; its logs are in {self.home}")
         self.heard()
-
-    def _read_bare_window(self):
-        """Orca may hang after it has said that it is there: what it reads first is a window that is not the program's."""
-        before = len(self._lines())
-        window = self.run(os.environ["KELVORA_BARE"])
-        try:
-            wait_for(lambda: any(line.startswith("END Mensajes") for line in self._lines()[before:]), "Orca to read", 10)
-        finally:
-            self._end(window)
 
     def end_reader(self):
         self._end(self._reader)
