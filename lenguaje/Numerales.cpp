@@ -4,6 +4,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
+#include <tuple>
 
 namespace lenguaje {
 
@@ -61,6 +63,15 @@ struct Grupos
 Grupos Partir(double x)
 {
     Grupos grupos;
+    // Whole numbers of this size are exact as doubles and so are their quotients: integers give the same, and faster.
+    if (x >= 0 && x < 1e12 && x == std::trunc(x)) {
+        auto resto = static_cast<std::uint64_t>(x);
+        for (; resto >= 1000; resto /= 1000) {
+            grupos.valor[grupos.mayor++] = static_cast<int>(resto % 1000);
+        }
+        grupos.valor[grupos.mayor] = static_cast<int>(resto);
+        return grupos;
+    }
     while (x > 0) {
         // Beyond 2^53 the remainder of a double can fall outside 0..1000, where the tables have no words.
         const double grupo = std::clamp(Resto(x, 1000), 0.0, 1000.0);
@@ -73,9 +84,26 @@ Grupos Partir(double x)
     return grupos;
 }
 
-void AgregarGrupo(std::string& texto, int valor, std::size_t g, bool esDenominador)
+// A text that grows in place, so that a reading costs the memory of its result alone.
+class Letras
 {
-    const TablasNumerales& t = CargarTablasNumerales();
+public:
+    void operator+=(string_view texto)
+    {
+        std::copy(texto.begin(), texto.end(), m_letras.begin() + m_longitud);
+        m_longitud += texto.size();
+    }
+    std::size_t Longitud() const { return m_longitud; }
+    std::string Texto() const { return {m_letras.data(), m_longitud}; }
+
+private:
+    // Each group takes less than 64, and the affixes together too.
+    std::array<char, 64 * (std::tuple_size_v<decltype(Grupos::valor)> + 1)> m_letras;
+    std::size_t m_longitud = 0;
+};
+
+void AgregarGrupo(Letras& texto, int valor, std::size_t g, bool esDenominador)
+{
     if (valor == 0) {
         return;
     }
@@ -86,16 +114,16 @@ void AgregarGrupo(std::string& texto, int valor, std::size_t g, bool esDenominad
     const auto c = static_cast<std::size_t>(valor / 100);
     const auto r = static_cast<std::size_t>(valor % 100);
     if (c > 0) {
-        const auto& cientos = esDenominador ? t.CentenasPartes : t.Centenas;
+        const auto& cientos = esDenominador ? tablas.CentenasPartes : tablas.Centenas;
         texto += c == 1 && r == 0 ? cientos[10] : cientos[c - 1];
     }
-    const auto& unidades = esDenominador ? t.Partes : t.Unidades;
+    const auto& unidades = esDenominador ? tablas.Partes : tablas.Unidades;
     if (r < unidades.size()) {
         texto += unidades[r];
     } else if (r % 10 == 0) {
-        texto += (esDenominador ? t.DecenasPartes : t.Decenas)[r / 10 - 1];
+        texto += (esDenominador ? tablas.DecenasPartes : tablas.Decenas)[r / 10 - 1];
     } else {
-        texto += (esDenominador ? t.DecenasCompuestasPartes : t.DecenasCompuestas)[r / 10 - 1];
+        texto += (esDenominador ? tablas.DecenasCompuestasPartes : tablas.DecenasCompuestas)[r / 10 - 1];
         texto += unidades[r % 10];
     }
     if (g < escalas.size()) {
@@ -121,22 +149,21 @@ std::string NumeroEnLetras(double valor, bool& esDenominador, Variante variante)
         return "número demasiado grande";
     }
     const Grupos grupos = Partir(magnitud);
-    std::string texto;
-    texto.reserve(64 * (grupos.mayor + 1)); // one allocation, more than the longest group and the affixes
+    Letras numero;
     if (variante == Variante::ConMenos && valor < 0) {
-        texto += "menos ";
+        numero += "menos ";
     }
-    const std::size_t signo = texto.size();
+    const std::size_t signo = numero.Longitud();
     for (std::size_t g = grupos.mayor + 1; g-- > 0;) {
-        AgregarGrupo(texto, grupos.valor.at(g), g, esDenominador);
+        AgregarGrupo(numero, grupos.valor.at(g), g, esDenominador);
     }
-    if (texto.size() == signo) {
-        texto += "cero";
+    if (numero.Longitud() == signo) {
+        numero += "cero";
     }
     if (conAvo) {
-        texto += "avo";
+        numero += "avo";
     }
-    return texto;
+    return numero.Texto();
 }
 
 double Cociente(double a, double b)
