@@ -65,9 +65,9 @@ for line in sys.stdin:
 def main(program, bare):
     session = Session()
     try:
-        session.run(bare)
+        session.start(bare)
         session.wait_heard("Mensajes")
-        session.run(program)
+        session.start(program)
         session.wait_heard("botón")
         for _ in range(6):
             session.press("Tab")

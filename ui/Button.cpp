@@ -10,7 +10,6 @@
 #include <QKeyEvent>
 #include <QPainter>
 #include <QPointer>
-#include <QRegularExpression>
 
 namespace ui {
 
@@ -140,17 +139,16 @@ void Button::Refuse() const
 
 void Button::NameChanged()
 {
-    static const QRegularExpression lineEnds("[\\r\\n]+");
     QString name = m_says;
     if (name.isEmpty()) {
-        name = m_button.text().remove('&').replace(lineEnds, " ");
+        name = m_button.text().remove('&').remove('\r').replace('\n', ' ');
     }
     if (name == m_name) {
         return;
     }
     m_name = name;
     // Qt makes the name of a caption of one line itself, and tells of it once.
-    const bool byQt = m_says.isEmpty() && !m_button.text().contains(lineEnds);
+    const bool byQt = m_says.isEmpty() && !m_button.text().contains('\n');
     m_button.setAccessibleName(byQt ? QString() : name);
     if (!newNamesAreRead && m_button.hasFocus()) {
         Announcer::Instance().Say(m_button, name);

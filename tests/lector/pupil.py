@@ -218,7 +218,7 @@ class Lesson(unittest.TestCase):
 
     def open_screen(self, program, name, first):
         """Opens a screen from the menu, whose first box is called `first`."""
-        self.session.run(program)
+        self.session.start(program)
         self.session.wait_heard("botón")
         self.expect_window("KELVORA", button(MENU[0]))
         for entry in MENU[1:MENU.index(name) + 1]:

@@ -1,21 +1,19 @@
 """A desktop without screen or loudspeaker on which a real screen reader runs, and a pupil's hands and ears.
 
-The voice is a transcript: Speech Dispatcher passes each text to a shell command that writes it down when the voice
-begins, takes some time for it, and notes when it has come to the end. A text that is cut off has no end.
+The voice writes down what it says, see `voice`.
 """
 
 import json
 import os
 import pathlib
 import re
-import shutil
-import signal
 import subprocess
 import sys
-import tempfile
 import time
 
-LIMIT = 30  # seconds to wait for anything at all; only a failure takes that long
+sys.path.insert(0, str(pathlib.Path(__file__).parent.parent / "support"))
+from desktop import LIMIT, AccessibleDesktop, wait_for
+
 READY = "END Lector de pantalla activado."
 QUIET = 0.5  # seconds without a new utterance after which the reader has finished
 
@@ -26,32 +24,9 @@ CommunicationMethod "unix_socket"
 AudioOutputMethod "alsa"
 DefaultRate 0
 DefaultLanguage "es"
-AddModule "transcript" "sd_generic" "transcript.conf"
+AddModule "transcript" "voice" "transcript.conf"
 DefaultModule transcript
 Include "clients/*.conf"
-"""
-
-# One text is one line: the delimiters at which the module would cut it never occur.
-VOICE_CONF = """\
-GenericExecuteSynth "{voice} \\'$DATA\\'"
-GenericMaxChunkLength 100000
-GenericDelimiters "~"
-GenericPunctNone "none"
-GenericRecodeFallback "?"
-GenericLanguage "es" "es" "utf-8"
-GenericLanguage "en" "en" "utf-8"
-AddVoice "es" "MALE1" "es"
-AddVoice "en" "MALE1" "en"
-Debug 0
-"""
-
-VOICE = """\
-#!/bin/sh
-text=$(printf '%s' "$1" | tr -d '\\r' | tr '\\n' '|')
-printf 'START %s\\n' "$text" >> '{transcript}'
-ms=$((100 + 5 * ${{#text}}))
-sleep $((ms / 1000)).$(printf %03d $((ms % 1000)))
-printf 'END %s\\n' "$text" >> '{transcript}'
 """
 
 # Qt before 6.8, and the Orca of its time, 43.
@@ -91,124 +66,75 @@ print(bus.call_sync(program.app.bus_name, "/org/a11y/atspi/accessible/root", "or
                     GLib.Variant("(u)", (0,)), None, 0, -1, None).unpack()[0])
 """
 
-ASOUNDRC = "pcm.!default { type null }\n"
-
-
-class NotReady(Exception):
-    """The desktop or its screen reader did not start."""
-
-
-def wait_for(condition, what, limit=LIMIT):
-    end = time.monotonic() + limit
-    while time.monotonic() < end:
-        value = condition()
-        if value:
-            return value
-        time.sleep(0.02)
-    raise NotReady(f"waited {limit} s for {what}")
-
 
 def is_text(text):
     """What Speech Dispatcher 0.12 hands on for a single character or key is not its text."""
     return text and "\N{REPLACEMENT CHARACTER}" not in text and text.isprintable()
 
 
-class Session:
-    """Display, window manager, accessibility bus, voice and reader; `run` starts a program among them."""
+class Session(AccessibleDesktop):
+    """A desktop with voice and reader; `start` starts a program there."""
 
     def __init__(self):
-        self.home = pathlib.Path(tempfile.mkdtemp(prefix="lector-"))
-        self.transcript = self.home / "transcript"
-        self.orca_log = self.home / "orca.log"
-        self._children = []
         self._read = 0
-        try:
-            self._start_desktop()
-            self._set_reader()
-            self.start_reader()
-        except BaseException:
-            self.close(keep=True)
-            raise
+        super().__init__(LANG="es_ES.UTF-8", LANGUAGE="es", QT_ACCESSIBILITY="1", GTK_MODULES="", NO_AT_BRIDGE="0",
+                         **{key: os.environ[key] for key in ("ASAN_OPTIONS",) if key in os.environ})
 
-    def _start(self, name, *command, **options):
-        with open(self.home / f"{name}.log", "wb") as log:
-            child = subprocess.Popen(command, env=self.env, stdin=subprocess.DEVNULL, stdout=log, stderr=log,
-                                     start_new_session=True, **options)
-        self._children.append(child)
-        return child
-
-    def _start_desktop(self):
-        self.env = {key: os.environ[key] for key in ("PATH", "DBUS_SESSION_BUS_ADDRESS", "ASAN_OPTIONS") if key in os.environ}
-        runtime = self.home / "runtime"
-        runtime.mkdir(mode=0o700)
+    def _set_up(self):
+        self.transcript = self.home / "transcript"
+        self.orca_debug = self.home / "orca-debug"
         locales = self.home / "locale"
         locales.mkdir()
         subprocess.run(["localedef", "-i", "es_ES", "-f", "UTF-8", locales / "es_ES.UTF-8"], check=True)
-        self.env |= {"HOME": str(self.home), "XDG_RUNTIME_DIR": str(runtime), "LOCPATH": str(locales),
-                     "LANG": "es_ES.UTF-8", "LANGUAGE": "es", "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1",
-                     "QT_ACCESSIBILITY": "1", "QT_QPA_PLATFORM": "xcb", "GTK_MODULES": "", "NO_AT_BRIDGE": "0"}
-        read, write = os.pipe()
-        # Without -noreset it starts anew when its first client goes, and refuses the window manager meanwhile.
-        self._start("xvfb", "Xvfb", "-displayfd", str(write), "-screen", "0", "1366x768x24", "-nolisten", "tcp", "-noreset",
-                    pass_fds=[write])
-        os.close(write)
-        with os.fdopen(read) as pipe:
-            number = pipe.readline().strip()
-        if not number:
-            raise NotReady("Xvfb did not start")
-        self.env["DISPLAY"] = f":{number}"
-        self._start("openbox", "openbox", "--sm-disable")
-        self._bus = self._start("bus", "/usr/libexec/at-spi-bus-launcher", "--launch-immediately", "--a11y=1", "--screen-reader=1")
+        self.env["LOCPATH"] = str(locales)
+        super()._set_up()
+        self._start_voice()
+        self._set_reader()
+        self.start_reader()
+
+    def _start_voice(self):
         conf = self.home / "speechd"
         (conf / "modules").mkdir(parents=True)
         (conf / "clients").mkdir()
-        voice = self.home / "voice"
-        voice.write_text(VOICE.format(transcript=self.transcript))
-        voice.chmod(0o755)
         (conf / "speechd.conf").write_text(SPEECHD_CONF)
         (conf / "clients" / "none.conf").write_text("")
-        (conf / "modules" / "transcript.conf").write_text(VOICE_CONF.format(voice=voice))
-        (self.home / ".asoundrc").write_text(ASOUNDRC)
+        (conf / "modules" / "transcript.conf").write_text(str(self.transcript))
         self.transcript.touch()
-        self._start("speechd", "speech-dispatcher", "--run-single", "--config-dir", str(conf), "--log-dir",
-                    str(self.home))
-        wait_for(lambda: list(runtime.glob("speech-dispatcher/speechd.sock")), "Speech Dispatcher")
+        self.start("speech-dispatcher", "--run-single", "--config-dir", str(conf), "--module-dir",
+                   str(pathlib.Path(__file__).parent), "--log-dir", str(self.home))
+        wait_for(lambda: list(self.home.glob("runtime/speech-dispatcher/speechd.sock")), "Speech Dispatcher")
 
     def _set_reader(self):
         settings = self.home / ".local/share/orca/user-settings.conf"
-        settings.parent.mkdir(parents=True)
+        settings.parent.mkdir(parents=True, exist_ok=True)
         settings.write_text(json.dumps({"general": ORCA_SETTINGS, "pronunciations": {}, "keybindings": {}, "profiles": {
             "default": ORCA_SETTINGS | {"profile": ["Default", "default"], "pronunciations": {}, "keybindings": {}}}}))
 
     def start_reader(self):
         for _ in range(5):  # it does not always come up at once
             before = self.transcript.read_text().count(READY)
-            self._reader = self._start("orca-output", "/usr/bin/python3", "/usr/bin/orca", "--replace",
-                                 f"--debug-file={self.orca_log}")
+            self._reader = self.start("/usr/bin/orca", f"--debug-file={self.orca_debug}")
             try:
                 wait_for(lambda: self.transcript.read_text().count(READY) > before, "Orca", 15)
                 time.sleep(0.5)  # until it is on the bus itself
                 self._ask(PING)
                 break
-            except (NotReady, subprocess.SubprocessError):
-                self._end(self._reader)
+            except (TimeoutError, subprocess.SubprocessError):
+                self.end(self._reader)
         else:
-            raise NotReady(f"Orca did not start in five tries; its logs are in {self.home}")
+            raise RuntimeError(f"Orca did not start in five tries; its logs are in {self.home}")
         self.heard()
 
     def end_reader(self):
-        self._end(self._reader)
-
-    def end_bus(self):
-        self._end(self._bus)
+        self.end(self._reader)
 
     def braille(self):
         """The lines that a braille display has shown, in order."""
-        return re.findall(r"BRAILLE LINE:  '(.*)'$", self.orca_log.read_text(errors="replace"), re.MULTILINE)
+        return re.findall(r"BRAILLE LINE:  '(.*)'$", self.orca_debug.read_text(errors="replace"), re.MULTILINE)
 
     def presented(self, text):
         """Whether the reader has sent `text`, with "|" between lines, to the voice, be it heard to its end or not."""
-        log = self.orca_log.read_text(errors="replace")
+        log = self.orca_debug.read_text(errors="replace")
         return f"SPEECH OUTPUT: '{text}'" in re.sub(r"\r?\n +(?=\S)", "|", log)
 
     def wait_heard(self, text):
@@ -226,16 +152,6 @@ class Session:
 
     def _lines(self):
         return self.transcript.read_text(errors="replace").splitlines()
-
-    def run(self, *command):
-        return self._start("program", *command)
-
-    def press(self, *keys):
-        for key in keys:
-            subprocess.run(["xdotool", "key", "--clearmodifiers", key], env=self.env, check=True)
-
-    def type(self, text):
-        subprocess.run(["xdotool", "type", "--delay", "120", "--", text], env=self.env, check=True)
 
     def all_heard(self):
         """All texts since the voice was there: those that it has begun, and those that it has spoken to their end."""
@@ -259,7 +175,7 @@ class Session:
         """Waits until so many texts have been spoken to their end since the last `heard`, or the limit has passed."""
         try:
             wait_for(lambda: sum(line.startswith("END ") for line in self._lines()[self._read:]) >= at_least, "", 10)
-        except NotReady:
+        except TimeoutError:
             pass  # the caller sees what is missing
 
     def heard(self, at_least=0):
@@ -291,21 +207,3 @@ class Session:
 
     def _speaking(self, lines):
         return bool(lines) and lines[-1].startswith("START ") and time.time() - self.transcript.stat().st_mtime < 3
-
-    def _end(self, child):
-        if child.poll() is None:
-            try:
-                os.killpg(child.pid, signal.SIGTERM)
-                child.wait(5)
-            except (ProcessLookupError, subprocess.TimeoutExpired):
-                os.killpg(child.pid, signal.SIGKILL)
-                child.wait()
-        self._children.remove(child)
-
-    def close(self, keep=False):
-        for child in reversed(self._children[:]):
-            self._end(child)
-        if keep:
-            print(f"logs kept in {self.home}", file=sys.stderr)
-        else:
-            shutil.rmtree(self.home, ignore_errors=True)

@@ -7,7 +7,7 @@ from pupil import *
 
 class Menu(Lesson):
     def test_a_round_and_the_credits(self):
-        program = self.session.run(PROGRAM)
+        program = self.session.start(PROGRAM)
         self.session.wait_heard("botón")
         self.expect_window("KELVORA", button(MENU[0]))
         self.assertEqual(self.session.language(), "es_ES")

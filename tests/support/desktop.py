@@ -1,49 +1,69 @@
-"""A desktop without a screen: a display, a window manager, and the programs that somebody starts there."""
+"""A desktop without a screen: a display, a window manager, and the programs that somebody starts there; perhaps with an
+accessibility bus.
+"""
 
+import contextlib
 import os
 import pathlib
 import shutil
 import signal
 import subprocess
+import sys
 import tempfile
 import time
 
 LIMIT = 30  # seconds to wait for anything at all; only a failure takes that long
 
 
-def wait_for(condition, what):
+def wait_for(condition, what, limit=LIMIT):
     """Waits until `condition` gives something true, which is returned."""
-    end = time.monotonic() + LIMIT
+    end = time.monotonic() + limit
     while time.monotonic() < end:
         value = condition()
         if value:
             return value
-        time.sleep(0.05)
-    raise AssertionError(f"waited {LIMIT} s for {what}")
+        time.sleep(0.02)
+    raise TimeoutError(f"waited {limit} s for {what}")
 
 
 class Desktop:
-    """`more` is added to the environment, in which there is nothing but where programs are and a home of its own."""
+    """`more` is added to the environment, in which there is nothing but where programs are and a home of its own. There
+    each of them has its log.
+    """
 
     def __init__(self, **more):
-        self.home = pathlib.Path(tempfile.mkdtemp(prefix="kelvora-desktop-"))
-        self.env = {"PATH": os.environ["PATH"], "HOME": str(self.home), "XDG_RUNTIME_DIR": str(self.home)} | more
-        self.children = []
+        self.home = pathlib.Path(tempfile.mkdtemp(prefix="kelvora-"))
+        runtime = self.home / "runtime"
+        runtime.mkdir(mode=0o700)
+        self.env = {"PATH": os.environ["PATH"], "HOME": str(self.home), "XDG_RUNTIME_DIR": str(runtime)} | more
+        self._children = []
+        try:
+            self._set_up()
+        except BaseException:
+            self.close(keep=True)
+            raise
+
+    def _set_up(self):
         read, write = os.pipe()
         # Without -noreset it starts anew when its first client goes, and refuses the window manager meanwhile.
         self.display = self.start("Xvfb", "-displayfd", str(write), "-screen", "0", "1366x768x24", "-nolisten", "tcp", "-noreset",
                                   pass_fds=[write])
         os.close(write)
         with os.fdopen(read) as pipe:
-            self.env["DISPLAY"] = f":{pipe.readline().strip()}"
-        self.start("openbox", "--sm-disable")
-        # A window that comes while the manager is still starting may never be shown.
-        wait_for(lambda: "window id" in self.output("xprop", "-root", "_NET_SUPPORTING_WM_CHECK"), "the window manager")
+            number = pipe.readline().strip()
+        if not number:
+            raise RuntimeError("Xvfb did not start")
+        self.env["DISPLAY"] = f":{number}"
+        # A window that comes while the manager is still starting may never be shown: it is there when it runs its command.
+        ready = self.home / "ready"
+        self.start("openbox", "--sm-disable", "--startup", f"touch {ready}")
+        wait_for(ready.exists, "the window manager")
 
     def start(self, *command, **options):
-        options = {"stdin": subprocess.DEVNULL, "stdout": subprocess.DEVNULL, "stderr": subprocess.DEVNULL} | options
-        child = subprocess.Popen(command, env=self.env, start_new_session=True, **options)
-        self.children.append(child)
+        with open(self.home / f"{pathlib.Path(command[0]).name}.log", "ab") as log:
+            options = {"stdin": subprocess.DEVNULL, "stdout": log, "stderr": log} | options
+            child = subprocess.Popen(command, env=self.env, start_new_session=True, **options)
+        self._children.append(child)
         return child
 
     def output(self, *command):
@@ -59,22 +79,66 @@ class Desktop:
         subprocess.run(["xdotool", "windowactivate", "--sync", window], env=self.env, check=True)
         return window
 
+    def wait_closed(self, title):
+        wait_for(lambda: not self.has_window(title), f"{title} to close")
+
     def press(self, *keys):
-        subprocess.run(["xdotool", "key", *keys], env=self.env, check=True)
+        for key in keys:
+            subprocess.run(["xdotool", "key", "--clearmodifiers", key], env=self.env, check=True)
 
     def type(self, text):
-        subprocess.run(["xdotool", "type", "--delay", "50", text], env=self.env, check=True)
+        subprocess.run(["xdotool", "type", "--delay", "120", "--", text], env=self.env, check=True)
 
     def end(self, child):
         """Ends a program and those that it has started."""
-        try:
+        with contextlib.suppress(ProcessLookupError, subprocess.TimeoutExpired):
+            os.killpg(child.pid, signal.SIGTERM)
+            child.wait(5)
+        with contextlib.suppress(ProcessLookupError):
             os.killpg(child.pid, signal.SIGKILL)
-        except ProcessLookupError:
-            pass  # all of them have ended themselves
         child.wait()
-        self.children.remove(child)
+        self._children.remove(child)
 
-    def close(self):
-        for child in reversed(self.children[:]):
+    def close(self, keep=False):
+        for child in reversed(self._children[:]):
             self.end(child)
-        shutil.rmtree(self.home, ignore_errors=True)
+        if keep:
+            print(f"logs kept in {self.home}", file=sys.stderr)
+        else:
+            shutil.rmtree(self.home, ignore_errors=True)
+
+
+class AccessibleDesktop(Desktop):
+    """With an accessibility bus, where programs tell of themselves; the bus of the session has to be there."""
+
+    def __init__(self, **more):
+        super().__init__(DBUS_SESSION_BUS_ADDRESS=os.environ["DBUS_SESSION_BUS_ADDRESS"],
+                         QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1", **more)
+
+    def _set_up(self):
+        super()._set_up()
+        self.bus = self.start("/usr/libexec/at-spi-bus-launcher", "--launch-immediately", "--a11y=1", "--screen-reader=1")
+
+    def box_texts(self, title):
+        """The texts of the boxes of a window of the program, by their names, or nothing where there is no such window yet."""
+        os.environ |= self.env  # for what asks the bus here
+        import gi
+        gi.require_version("Atspi", "2.0")
+        from gi.repository import Atspi
+        texts = {}
+
+        def collect(thing):
+            if "Text" in thing.get_interfaces():
+                texts[thing.get_name()] = Atspi.Text.get_text(thing, 0, -1)
+            for i in range(thing.get_child_count()):
+                collect(thing.get_child_at_index(i))
+
+        desktop = Atspi.get_desktop(0)
+        desktop.clear_cache()
+        for i in range(desktop.get_child_count()):
+            program = desktop.get_child_at_index(i)
+            if program and program.get_name() == "Kelvora":
+                for j in range(program.get_child_count()):
+                    if program.get_child_at_index(j).get_name() == title:
+                        collect(program.get_child_at_index(j))
+        return texts

@@ -22,7 +22,7 @@ class Reader(unittest.TestCase):
     def setUp(self):
         self.session = Session()
         self.addCleanup(self.session.close)
-        self.program = self.session.run(PROGRAM)
+        self.program = self.session.start(PROGRAM)
         self.session.wait_heard("botón")
         for _ in range(6):
             self.session.press("Tab")
@@ -46,7 +46,7 @@ class Reader(unittest.TestCase):
         self.leave()
 
     def test_the_accessibility_bus_dies(self):
-        self.session.end_bus()
+        self.session.end(self.session.bus)
         self.session.press("F3", "ctrl+Left", "3", "Return")
         self.leave()
 
@@ -65,7 +65,7 @@ class Alone(unittest.TestCase):
         desktop.press(*["Tab"] * 6, "Return")
         desktop.wait_window(SUM)
         desktop.press("F3", "ctrl+Left", "3", "Return", "alt+c", "alt+v", "alt+F4")
-        wait_for(lambda: not desktop.has_window(SUM), "the sum to close")
+        desktop.wait_closed(SUM)
         desktop.wait_window("KELVORA")
         desktop.press("alt+F4")
         self.assertEqual(program.wait(LIMIT), 0)
