@@ -42,8 +42,7 @@ UTTERANCES = {
     "selection": (["{text}", "seleccionado"], []),  # the whole text is selected, right before an announcement
     "unchecked entry": (["{sentence}"], ["{text} no marcada."]),
     "submenu with dots": (["{text}punto punto punto "], ["{text}..."]),
-    # A character typed. What Speech Dispatcher 0.12 hands on of it is not its text.
-    "echo": (["{text} "], []),
+    "echo": (["{text} "], ["{text}"]),  # a character typed
 }
 
 
@@ -86,9 +85,7 @@ class Announced(Brailled):
 
 
 def said(text):
-    """An announcement. Of a single character, see "echo"."""
-    if not OLD and len(text) == 1:
-        return []
+    """An announcement."""
     return [Announced(utterance, text) for utterance in utterances("announcement", text)]
 
 
@@ -177,8 +174,7 @@ class Lesson(unittest.TestCase):
         begun, ended = self.session.all_heard()
         for text in begun:
             self.assertIsNone(re.search(ENGLISH, text, re.IGNORECASE), text)
-            if OLD or len(text) >= 8:  # shorter ones may be made of a single character, see "echo"
-                self.assertIsNone(re.search(MARKS, text), text)
+            self.assertIsNone(re.search(MARKS, text), text)
         for text in {text for text in self.expected if isinstance(text, Announced)}:
             times = self.expected.count(text)
             self.assertEqual((begun.count(text), ended.count(text)), (times, times), text)
@@ -230,13 +226,12 @@ class Lesson(unittest.TestCase):
         """Types a number, perhaps over a selection, and hears each character."""
         for count, digit in enumerate(digits, 1):
             self.session.type(digit)
-            if OLD:
-                self.session.await_heard(count)
+            self.session.await_heard(count)
         heard = self.hear()
         if replacing:
-            heard = [text for text in heard if text.removesuffix(" [cut]") != "Selección eliminada."]
-        if OLD:
-            self.assertEqual(heard, [text for digit in digits for text in echo("guión" if digit == "-" else digit)])
+            heard = [text for text in heard
+                     if text.removesuffix(" [cut]") not in ("Selección eliminada.", "Texto no seleccionado.")]
+        self.assertEqual(heard, [text for digit in digits for text in echo("guión" if OLD and digit == "-" else digit)])
 
     def expect_input(self, title, prompt, offered):
         """An input box has opened by a key."""

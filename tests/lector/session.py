@@ -33,9 +33,8 @@ Include "clients/*.conf"
 OLD = tuple(int(part) for part in os.environ["KELVORA_QT"].split(".")[:2]) < (6, 8)
 
 # Of the keys, only the characters typed are echoed: names of function keys and the like are cut off, or not, by the
-# speed of the fingers, and are the reader's own affair. With the newer reader not even those: what Speech Dispatcher 0.12
-# hands on of a single character is not its text.
-ORCA_SETTINGS = {"enableKeyEcho": OLD, "enableFunctionKeys": False, "enableModifierKeys": False, "enableActionKeys": False,
+# speed of the fingers, and are the reader's own affair.
+ORCA_SETTINGS = {"enableKeyEcho": True, "enableFunctionKeys": False, "enableModifierKeys": False, "enableActionKeys": False,
                  "enableNavigationKeys": False}
 
 ACCESSIBILITY_BUS = """\
@@ -67,16 +66,12 @@ print(bus.call_sync(program.app.bus_name, "/org/a11y/atspi/accessible/root", "or
 """
 
 
-def is_text(text):
-    """What Speech Dispatcher 0.12 hands on for a single character or key is not its text."""
-    return text and "\N{REPLACEMENT CHARACTER}" not in text and text.isprintable()
-
-
 class Session(AccessibleDesktop):
     """A desktop with voice and reader; `start` starts a program there."""
 
     def __init__(self):
         self._read = 0
+        self._letters = set()  # pressed beside Alt or Control since the last `heard`
         super().__init__(LANG="es_ES.UTF-8", LANGUAGE="es", QT_ACCESSIBILITY="1", GTK_MODULES="", NO_AT_BRIDGE="0",
                          **{key: os.environ[key] for key in ("ASAN_OPTIONS",) if key in os.environ})
 
@@ -150,13 +145,17 @@ class Session(AccessibleDesktop):
             return next((found for found in map(pattern.match, ended) if found), None)
         return wait_for(match, f"the voice to say {pattern.pattern!r}")
 
+    def press(self, *keys):
+        super().press(*keys)
+        self._letters.update(key[-1] for key in keys if re.search(r"\+\w$", key))
+
     def _lines(self):
         return self.transcript.read_text(errors="replace").splitlines()
 
     def all_heard(self):
         """All texts since the voice was there: those that it has begun, and those that it has spoken to their end."""
         lines = self._lines()
-        return tuple([line.removeprefix(mark) for line in lines if line.startswith(mark) and is_text(line.removeprefix(mark))]
+        return tuple([line.removeprefix(mark) for line in lines if line.startswith(mark)]
                      for mark in ("START ", "END "))
 
     def language(self):
@@ -174,13 +173,15 @@ class Session(AccessibleDesktop):
     def await_heard(self, at_least):
         """Waits until so many texts have been spoken to their end since the last `heard`, or the limit has passed."""
         try:
-            wait_for(lambda: sum(line.startswith("END ") for line in self._lines()[self._read:]) >= at_least, "", 10)
+            wait_for(lambda: sum(line.startswith("END ") and line[4:].strip() not in self._letters
+                                 for line in self._lines()[self._read:]) >= at_least, "", 10)
         except TimeoutError:
             pass  # the caller sees what is missing
 
     def heard(self, at_least=0):
         """The texts spoken since the last call; one that was cut off ends in "[cut]". Waits until there are `at_least`
-        so many, or the limit has passed, and then until the voice has been quiet for a while."""
+        so many, or the limit has passed, and then until the voice has been quiet for a while. Letters pressed beside Alt
+        or Control, which the reader may echo or not, are left out."""
         self.await_heard(at_least)
         last = None
         since = time.monotonic()
@@ -196,14 +197,13 @@ class Session(AccessibleDesktop):
         for line in new:
             if line.startswith("START "):
                 text = line[6:]
-                if not is_text(text):
-                    continue
                 if text in ended:
                     ended.remove(text)
                     texts.append(text)
                 else:
                     texts.append(text + " [cut]")
-        return texts
+        letters, self._letters = self._letters, set()
+        return [text for text in texts if text.removesuffix(" [cut]").strip() not in letters]
 
     def _speaking(self, lines):
         return bool(lines) and lines[-1].startswith("START ") and time.time() - self.transcript.stat().st_mtime < 3

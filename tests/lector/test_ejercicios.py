@@ -53,8 +53,7 @@ class Cantidad(ExerciseLesson):
         self.press("Tab", locked("Cantidad", f"{CARDINALS.index(match[3])}"))
 
         # Wrong, and the answer is selected for the next try.
-        self.session.press("alt+r")
-        self.assertEqual([text for text in self.hear(1) if text.strip() != "r"], editable("Resultado", ""))
+        self.press("alt+r", editable("Resultado", ""))
         self.type("0")
         self.press("Return", selected("0"), said("Resultado incorrecto"))
         self.type(f"{result}", replacing=True)
@@ -302,7 +301,7 @@ class Factores(ExerciseLesson):
         """Steps from character to character, hearing each."""
         for _ in range(times):
             self.session.press(key)
-            self.hear(1 if OLD else 0)
+            self.hear(1)
 
     def write_divisors(self, divisors):
         """Writes them below each other, from the caret on, hearing each row whole."""

@@ -1,5 +1,6 @@
+#!/usr/bin/python3
 """A desktop without a screen: a display, a window manager, and the programs that somebody starts there; perhaps with an
-accessibility bus.
+accessibility bus. As a program it runs the command that it is given on such a desktop.
 """
 
 import contextlib
@@ -142,3 +143,12 @@ class AccessibleDesktop(Desktop):
                     if program.get_child_at_index(j).get_name() == title:
                         collect(program.get_child_at_index(j))
         return texts
+
+
+if __name__ == "__main__":
+    DESKTOP = Desktop()
+    try:
+        status = subprocess.run(sys.argv[1:], env=os.environ | {"DISPLAY": DESKTOP.env["DISPLAY"]}).returncode
+    finally:
+        DESKTOP.close()
+    sys.exit(status)
