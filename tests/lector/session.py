@@ -24,7 +24,7 @@ CommunicationMethod "unix_socket"
 AudioOutputMethod "alsa"
 DefaultRate 0
 DefaultLanguage "es"
-AddModule "transcript" "voice" "transcript.conf"
+AddModule "transcript" "{voice}" "transcript.conf"
 DefaultModule transcript
 Include "clients/*.conf"
 """
@@ -91,12 +91,11 @@ class Session(AccessibleDesktop):
         conf = self.home / "speechd"
         (conf / "modules").mkdir(parents=True)
         (conf / "clients").mkdir()
-        (conf / "speechd.conf").write_text(SPEECHD_CONF)
+        (conf / "speechd.conf").write_text(SPEECHD_CONF.format(voice=pathlib.Path(__file__).parent / "voice"))
         (conf / "clients" / "none.conf").write_text("")
         (conf / "modules" / "transcript.conf").write_text(str(self.transcript))
         self.transcript.touch()
-        self.start("speech-dispatcher", "--run-single", "--config-dir", str(conf), "--module-dir",
-                   str(pathlib.Path(__file__).parent), "--log-dir", str(self.home))
+        self.start("speech-dispatcher", "--run-single", "--config-dir", str(conf), "--log-dir", str(self.home))
         wait_for(lambda: list(self.home.glob("runtime/speech-dispatcher/speechd.sock")), "Speech Dispatcher")
 
     def _set_reader(self):
