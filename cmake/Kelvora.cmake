@@ -17,9 +17,12 @@ function(kelvora_warnings target)
     endif()
 endfunction()
 
-# A screen of the size that school computers have, without a display.
-set(KELVORA_TEST_SCREEN
-    "QT_QPA_PLATFORM=offscreen:configfile=${PROJECT_SOURCE_DIR}/tests/support/screen.json;QT_STYLE_OVERRIDE=Fusion")
+# A screen of the size that school computers have, without a display; on Windows that of the machine.
+set(KELVORA_TEST_SCREEN QT_STYLE_OVERRIDE=Fusion)
+if(NOT WIN32)
+    list(APPEND KELVORA_TEST_SCREEN
+        QT_QPA_PLATFORM=offscreen:configfile=${PROJECT_SOURCE_DIR}/tests/support/screen.json)
+endif()
 
 # A Qt Test executable of one source file, run without a display. It links the libraries that it tests and no others.
 function(kelvora_test name)
@@ -47,4 +50,19 @@ function(kelvora_forbidden_include name)
         RUN_SERIAL ON
         ENVIRONMENT "LC_ALL=C"
         PASS_REGULAR_EXPRESSION "${ARG_HEADER}: No such file|${ARG_HEADER}' file not found")
+endfunction()
+
+# The icon in all sizes, as files of the calling folder's build: SIZE.png.
+function(kelvora_icon files)
+    find_program(RSVG_CONVERT rsvg-convert REQUIRED)
+    set(icon ${PROJECT_SOURCE_DIR}/data/org.kelvora.kelvora.svg)
+    foreach(size 16 22 24 32 48 64 128 256)
+        add_custom_command(
+            OUTPUT ${size}.png
+            COMMAND ${RSVG_CONVERT} --width ${size} --height ${size} --output ${size}.png ${icon}
+            DEPENDS ${icon}
+            VERBATIM)
+        list(APPEND pictures ${size}.png)
+    endforeach()
+    set(${files} ${pictures} PARENT_SCOPE)
 endfunction()

@@ -22,8 +22,10 @@ Application::Application(int& argc, char** argv) : QApplication(argc, argv)
     setWindowIcon(QIcon::fromTheme(desktopFileName()));
     // Told to the screen reader as the language of the application, whatever the desktop's is.
     QLocale::setDefault(QLocale(QLocale::Spanish, QLocale::Spain));
-    // For Qt's own texts, such as the context menus of text boxes; a system without the file has them in English.
-    if (m_translator.load("qtbase_es", QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+    // For Qt's own texts, such as the context menus of text boxes; a system without the file has them in English. On
+    // Windows the program carries it.
+    if (m_translator.load("qtbase_es", QLibraryInfo::path(QLibraryInfo::TranslationsPath)) ||
+        m_translator.load(":/qtbase_es")) {
         installTranslator(&m_translator);
     }
     SetUpAccessibility();

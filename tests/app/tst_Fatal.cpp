@@ -26,7 +26,7 @@ private slots:
         QVERIFY(program.waitForFinished(240'000));
         QCOMPARE(program.exitStatus(), QProcess::NormalExit);
         QCOMPARE(program.exitCode(), 1);
-        QCOMPARE(QString::fromUtf8(program.readAllStandardOutput()).split('\n'),
+        QCOMPARE(QString::fromUtf8(program.readAllStandardOutput().replace("\r\n", "\n")).split('\n'),
                  QStringList({score,
                               "critical Kelvora: Un número se ha salido del intervalo permitido, de -32768 a 32767. "
                               "El programa va a cerrarse.",

@@ -132,9 +132,12 @@ void WithDialogs(const std::function<void()>& action, const std::vector<DialogAn
     QTimer timer;
     QObject::connect(&timer, &QTimer::timeout, &timer, [&] {
         const QPointer<QWidget> dialog = QApplication::activeModalWidget();
-        // Before it is active, access keys do nothing.
-        if (!dialog || !dialog->isActiveWindow() || dialog == answered || qobject_cast<QDialog*>(dialog) == nullptr) {
+        if (!dialog || dialog == answered || qobject_cast<QDialog*>(dialog) == nullptr) {
             return;
+        }
+        const QWidget* focus = QApplication::focusWidget();
+        if (focus == nullptr || focus->window() != dialog) {
+            return; // before it has the focus, access keys do nothing
         }
         answered = dialog;
         if (opened < answers.size()) {

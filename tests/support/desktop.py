@@ -1,6 +1,6 @@
 #!/usr/bin/python3
 """A desktop without a screen: a display, a window manager, and the programs that somebody starts there; perhaps with an
-accessibility bus. As a program it runs the command that it is given on such a desktop.
+accessibility bus. As a program it runs the command that it is given on such a desktop, which is large.
 """
 
 import contextlib
@@ -32,7 +32,8 @@ class Desktop:
     each of them has its log.
     """
 
-    def __init__(self, **more):
+    def __init__(self, screen="1366x768", **more):
+        self._screen = screen
         self.home = pathlib.Path(tempfile.mkdtemp(prefix="kelvora-"))
         runtime = self.home / "runtime"
         runtime.mkdir(mode=0o700)
@@ -47,7 +48,7 @@ class Desktop:
     def _set_up(self):
         read, write = os.pipe()
         # Without -noreset it starts anew when its first client goes, and refuses the window manager meanwhile.
-        self.display = self.start("Xvfb", "-displayfd", str(write), "-screen", "0", "1366x768x24", "-nolisten", "tcp", "-noreset",
+        self.display = self.start("Xvfb", "-displayfd", str(write), "-screen", "0", f"{self._screen}x24", "-nolisten", "tcp", "-noreset",
                                   pass_fds=[write])
         os.close(write)
         with os.fdopen(read) as pipe:
@@ -146,7 +147,7 @@ class AccessibleDesktop(Desktop):
 
 
 if __name__ == "__main__":
-    DESKTOP = Desktop()
+    DESKTOP = Desktop(screen="5000x4000")
     try:
         status = subprocess.run(sys.argv[1:], env=os.environ | {"DISPLAY": DESKTOP.env["DISPLAY"]}).returncode
     finally:

@@ -70,7 +70,7 @@ private slots:
                        QCOMPARE(box.button(QMessageBox::Yes)->text(), "&Sí");
                        QCOMPARE(box.button(QMessageBox::No)->text(), "&No");
                        const bool escape = key == Qt::Key_Escape;
-                       QTest::keyClick(&dialog, Qt::Key(key), escape ? Qt::NoModifier : Qt::AltModifier);
+                       Press(Qt::Key(key), escape ? Qt::NoModifier : Qt::AltModifier);
                    });
         QCOMPARE(answer, yes ? ui::Answer::Yes : ui::Answer::No);
     }
