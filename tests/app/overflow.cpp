@@ -22,16 +22,16 @@ namespace {
 void PressTheLastKey(const QWidget& form)
 {
     const auto& score = support::Child<QLineEdit>(form, "tbResultados");
-    std::printf("%s\n", qPrintable(score.text()));
+    std::printf("%s\n", qUtf8Printable(score.text()));
     support::WithDialog([] { support::Press(Qt::Key_Return); },
                         [](QWidget& dialog) {
                             const auto& box = dynamic_cast<QMessageBox&>(dialog);
                             const bool critical = box.icon() == QMessageBox::Critical;
-                            std::printf("%s%s: %s\n", critical ? "critical " : "", qPrintable(box.windowTitle()),
-                                        qPrintable(box.text()));
+                            std::printf("%s%s: %s\n", critical ? "critical " : "", qUtf8Printable(box.windowTitle()),
+                                        qUtf8Printable(box.text()));
                             QTest::keyClick(&dialog, Qt::Key_Return);
                         });
-    std::printf("%s\n", qPrintable(score.text()));
+    std::printf("%s\n", qUtf8Printable(score.text()));
 }
 
 void AnswerWronglyTooOften(const QWidget& form)
