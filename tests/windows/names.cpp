@@ -1,5 +1,5 @@
-// Prints, for the file that is named, the title of each window and the object names of all that can have the focus in it,
-// a line each.
+// Prints, for the file that is named, the title of each window and the object names of all that can have the focus in
+// it, a line each.
 #include "Application.h"
 #include "Windows.h"
 

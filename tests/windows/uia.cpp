@@ -63,11 +63,10 @@ void Walk(IUIAutomation& automation, IUIAutomationElement& element, int depth)
     std::fprintf(s_file, "%d\t%ld\t%s\t%s\t%s\t", depth, Number(element, UIA_ControlTypePropertyId),
                  Text(element, UIA_NamePropertyId).c_str(), Text(element, UIA_AutomationIdPropertyId).c_str(),
                  Text(element, UIA_AccessKeyPropertyId).c_str());
-    for (const auto& [property, name] : {std::pair(UIA_IsEnabledPropertyId, "enabled"),
-                                         std::pair(UIA_IsKeyboardFocusablePropertyId, "focusable"),
-                                         std::pair(UIA_HasKeyboardFocusPropertyId, "focused"),
-                                         std::pair(UIA_IsOffscreenPropertyId, "offscreen"),
-                                         std::pair(UIA_ValueIsReadOnlyPropertyId, "readonly")}) {
+    for (const auto& [property, name] :
+         {std::pair(UIA_IsEnabledPropertyId, "enabled"), std::pair(UIA_IsKeyboardFocusablePropertyId, "focusable"),
+          std::pair(UIA_HasKeyboardFocusPropertyId, "focused"), std::pair(UIA_IsOffscreenPropertyId, "offscreen"),
+          std::pair(UIA_ValueIsReadOnlyPropertyId, "readonly")}) {
         if (Is(element, property)) {
             std::fprintf(s_file, "%s ", name);
         }
