@@ -100,7 +100,7 @@ class Session(AccessibleDesktop):
 
     def _set_reader(self):
         settings = self.home / ".local/share/orca/user-settings.conf"
-        settings.parent.mkdir(parents=True, exist_ok=True)
+        settings.parent.mkdir(parents=True)
         settings.write_text(json.dumps({"general": ORCA_SETTINGS, "pronunciations": {}, "keybindings": {}, "profiles": {
             "default": ORCA_SETTINGS | {"profile": ["Default", "default"], "pronunciations": {}, "keybindings": {}}}}))
 
