@@ -259,7 +259,7 @@ private slots:
     {
         QTest::addColumn<QString>("typed");
         QTest::addColumn<QString>("total");
-        QTest::addColumn<int>("parts");
+        QTest::addColumn<int>("shown");
         const auto row = [](const char* typed, const char* total, int count) {
             QTest::newRow(typed) << typed << total << count;
         };
@@ -273,7 +273,7 @@ private slots:
     {
         QFETCH(QString, typed);
         QFETCH(QString, total);
-        QFETCH(int, parts);
+        QFETCH(int, shown);
         Divide("2");
         // The last character is what makes the number too large or too small.
         Total().setText(typed.chopped(1));
@@ -282,7 +282,7 @@ private slots:
         Type(typed.right(1));
         QCOMPARE(Total().text(), total);
         QCOMPARE(m_ear->TakeSaid(), QStringList(total));
-        QCOMPARE(Parts(), QString(parts, 'v'));
+        QCOMPARE(Parts(), QString(shown, 'v'));
         QCOMPARE(Coloured().text(), "0");
     }
 
