@@ -38,6 +38,21 @@ function(kelvora_test name)
         ENVIRONMENT "${KELVORA_TEST_SCREEN};QT_FONT_DPI=96;LC_ALL=C.UTF-8")
 endfunction()
 
+# Suites of Python in the calling folder that use the program on a desktop, as LABEL_SUITE. The bus of the session is the
+# test's own, and Orca's modules and those that ask the accessibility bus are those of the system's Python.
+function(kelvora_session_tests label)
+    find_program(DBUS_RUN_SESSION dbus-run-session REQUIRED)
+    foreach(suite ${ARGN})
+        add_test(NAME ${label}_${suite}
+            COMMAND ${DBUS_RUN_SESSION} -- /usr/bin/python3 -m unittest -v ${suite}
+            WORKING_DIRECTORY ${CMAKE_CURRENT_SOURCE_DIR})
+        set_tests_properties(${label}_${suite} PROPERTIES
+            TIMEOUT 600
+            LABELS ${label}
+            ENVIRONMENT "KELVORA=$<TARGET_FILE:kelvora>;KELVORA_MUTE=$<TARGET_FILE:kelvora_mute>;KELVORA_QT=${Qt6_VERSION};PYTHONDONTWRITEBYTECODE=1")
+    endforeach()
+endfunction()
+
 # A test that a header of another folder cannot be included from this one.
 function(kelvora_forbidden_include name)
     cmake_parse_arguments(ARG "" "FROM;HEADER" "" ${ARGN})
