@@ -115,6 +115,11 @@ const Control* Form::ActiveControl() const
 
 bool Form::event(QEvent* event)
 {
+    if (event->type() == QEvent::Close) { // while a menu is open, Qt does not see which window becomes active next
+        while (QWidget* menu = QApplication::activePopupWidget()) {
+            menu->close();
+        }
+    }
     const bool handled = QMainWindow::event(event);
     if (event->type() == QEvent::ApplicationPaletteChange) { // only windows are told
         for (const std::unique_ptr<Control>& control : m_controls) {

@@ -7,6 +7,7 @@
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QPlainTextEdit>
+#include <QTimer>
 
 using namespace support;
 using ui::KeyResult;
@@ -378,6 +379,24 @@ private slots:
         QTRY_VERIFY(QApplication::activePopupWidget() != nullptr);
         QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
         QTRY_VERIFY(QApplication::activePopupWidget() == nullptr);
+    }
+
+    void after_a_window_closed_with_its_menu_open_another_has_the_focus()
+    {
+        sample::SampleForm other;
+        other.setAttribute(Qt::WA_DeleteOnClose, false);
+        other.Open(ui::Modality::Modeless);
+        QVERIFY(WaitActive(other));
+        Open(ui::Modality::Modal);
+        Press(Qt::Key_O, Qt::AltModifier);
+        QTRY_VERIFY(QApplication::activePopupWidget() != nullptr);
+        QEventLoop loop; // as the program runs; the loops of QTest come to deletions later
+        QTimer::singleShot(0, m_form, [this] { m_form->close(); });
+        connect(m_form, &QObject::destroyed, &loop, &QEventLoop::quit);
+        loop.exec();
+        other.activateWindow(); // without a desktop nobody else does
+        QVERIFY(WaitActive(other));
+        QTRY_VERIFY(other.isAncestorOf(QApplication::focusWidget()));
     }
 };
 
