@@ -17,11 +17,10 @@ function(kelvora_warnings target)
     endif()
 endfunction()
 
-# A screen of the size that school computers have, without a display; on Windows that of the machine.
-set(KELVORA_TEST_SCREEN QT_STYLE_OVERRIDE=Fusion)
+# A screen of the size that school computers have, without a display; on Windows that of the machine and its style.
 if(NOT WIN32)
-    list(APPEND KELVORA_TEST_SCREEN
-        QT_QPA_PLATFORM=offscreen:configfile=${PROJECT_SOURCE_DIR}/tests/support/screen.json)
+    set(KELVORA_TEST_SCREEN
+        QT_STYLE_OVERRIDE=Fusion QT_QPA_PLATFORM=offscreen:configfile=${PROJECT_SOURCE_DIR}/tests/support/screen.json)
 endif()
 
 # A Qt Test executable of one source file, run without a display. It links the libraries that it tests and no others.

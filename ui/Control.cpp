@@ -76,6 +76,7 @@ QFont Control::Font() const
 {
     QFont font(Families(ToQString(m_design.font)));
     font.setPixelSize(std::max(1, static_cast<int>(std::lround(m_design.points * pixelsPerPoint * m_typeScale))));
+    font.setStyleStrategy(QFont::ForceOutline); // Windows has MS Sans Serif in dots of a few sizes only
     font.setBold(m_design.weight == Weight::Bold);
     return font;
 }

@@ -66,9 +66,14 @@ QStringList Families(const QString& family)
         families += "Liberation Sans Narrow";
     } else if (family == "Verdana") {
         families += "DejaVu Sans";
+    } else if (family == "MS Sans Serif") {
+        families += "Microsoft Sans Serif";
     }
-    return families << "Liberation Sans"
-                    << "DejaVu Sans";
+    families << "Arial"
+             << "Liberation Sans"
+             << "DejaVu Sans";
+    families.removeDuplicates();
+    return families;
 }
 
 QFont Fitting(QFont font, const QString& text, const QSize& area, int flags, int smallest)

@@ -44,7 +44,7 @@ double Contrast(const QColor& a, const QColor& b);
 QColor ReadableOn(const QColor& background, const QColor& wanted);
 
 // The families in which type asked for in `family` is drawn, best first. A desktop without Comic Sans would offer
-// handwriting instead, which is hard to read.
+// handwriting instead, which is hard to read; one without Arial Narrow, as Windows often is, would offer no sans serif.
 QStringList Families(const QString& family);
 
 // `font` in the largest size from its own down to `smallest` pixels in which `text` fits into `area`, drawn with Qt

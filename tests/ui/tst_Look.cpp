@@ -30,6 +30,8 @@ private slots:
     {
         QCOMPARE(Families("Comic Sans MS").mid(0, 2), QStringList({"Comic Sans MS", "Comic Neue"}));
         QCOMPARE(Families("Arial").mid(0, 2), QStringList({"Arial", "Liberation Sans"}));
+        QCOMPARE(Families("Arial Narrow").mid(0, 3), QStringList({"Arial Narrow", "Liberation Sans Narrow", "Arial"}));
+        QCOMPARE(Families("MS Sans Serif").mid(0, 2), QStringList({"MS Sans Serif", "Microsoft Sans Serif"}));
     }
 
     void contrast_follows_wcag()
