@@ -84,50 +84,95 @@ Grupos Partir(double x)
     return grupos;
 }
 
+// A word with the room of the longest one: that all are copied whole needs no look at their lengths.
+struct Palabra
+{
+    Palabra() = default;
+    constexpr explicit Palabra(string_view inicio, string_view final = "")
+        : longitud(static_cast<std::uint8_t>(inicio.size() + final.size()))
+    {
+        std::ranges::copy(final, std::ranges::copy(inicio, letras.begin()).out); // a longer word does not compile
+    }
+
+    std::array<char, 31> letras{};
+    std::uint8_t longitud = 0;
+};
+
 // A text that grows in place, so that a reading costs the memory of its result alone.
 class Letras
 {
 public:
-    void operator+=(string_view texto)
+    void operator+=(const Palabra& palabra)
     {
-        std::copy(texto.begin(), texto.end(), m_letras.begin() + m_longitud);
-        m_longitud += texto.size();
+        std::ranges::copy(palabra.letras, m_letras.begin() + m_longitud);
+        m_longitud += palabra.longitud;
     }
     std::size_t Longitud() const { return m_longitud; }
     std::string Texto() const { return {m_letras.data(), m_longitud}; }
 
 private:
-    // Each group takes less than 64, and the affixes together too.
-    std::array<char, 64 * (std::tuple_size_v<decltype(Grupos::valor)> + 1)> m_letras;
+    // Three words for each group, the sign, and "avo".
+    std::array<char, sizeof(Palabra) * (3 * std::tuple_size_v<decltype(Grupos::valor)> + 2)> m_letras;
     std::size_t m_longitud = 0;
 };
 
-void AgregarGrupo(Letras& texto, int valor, std::size_t g, bool esDenominador)
+// What a group is put together from: mostly three copies and no decision.
+struct Piezas
+{
+    std::array<Palabra, 8> uno;       // the whole group, by its place, where it is 1
+    std::array<Palabra, 12> centenas; // by the hundreds; 10 is a group that rounds up to 1000, 11 a hundred and no more
+    std::array<Palabra, 100> resto;   // by what is left of the hundreds
+    std::array<Palabra, 8> escalas;   // by the place
+};
+
+constexpr std::size_t cienJusto = 11;
+
+constexpr Piezas Componer(bool esDenominador)
+{
+    const auto& unidades = esDenominador ? tablas.Partes : tablas.Unidades;
+    const auto& decenasJustas = esDenominador ? tablas.DecenasPartes : tablas.Decenas;
+    const auto& decenasYUnidad = esDenominador ? tablas.DecenasCompuestasPartes : tablas.DecenasCompuestas;
+    const auto& cientos = esDenominador ? tablas.CentenasPartes : tablas.Centenas;
+    Piezas piezas;
+    for (std::size_t g = 0; g < escalas.size(); ++g) {
+        const string_view escala = esDenominador ? escalasPartes[g] : escalas[g];
+        piezas.escalas[g] = Palabra(escala);
+        piezas.uno[g] = esDenominador ? Palabra(unidades[1], escala) : Palabra(grupoUno[g]);
+    }
+    for (std::size_t c = 0; c < cientos.size(); ++c) {
+        piezas.centenas[c + 1] = Palabra(cientos[c]);
+    }
+    for (std::size_t r = 0; r < piezas.resto.size(); ++r) {
+        if (r < unidades.size()) {
+            piezas.resto[r] = Palabra(unidades[r]);
+        } else if (r % 10 == 0) {
+            piezas.resto[r] = Palabra(decenasJustas[r / 10 - 1]);
+        } else {
+            piezas.resto[r] = Palabra(decenasYUnidad[r / 10 - 1], unidades[r % 10]);
+        }
+    }
+    return piezas;
+}
+
+constexpr Piezas cardinales = Componer(false);
+constexpr Piezas partes = Componer(true);
+constexpr Palabra menos("menos ");
+constexpr Palabra cero("cero");
+constexpr Palabra avo("avo");
+
+void AgregarGrupo(Letras& texto, const Piezas& piezas, int valor, std::size_t g)
 {
     if (valor == 0) {
         return;
     }
-    if (valor == 1 && !esDenominador && g < grupoUno.size()) {
-        texto += grupoUno[g];
+    if (valor == 1 && g < piezas.uno.size()) {
+        texto += piezas.uno[g];
         return;
     }
-    const auto c = static_cast<std::size_t>(valor / 100);
-    const auto r = static_cast<std::size_t>(valor % 100);
-    if (c > 0) {
-        const auto& cientos = esDenominador ? tablas.CentenasPartes : tablas.Centenas;
-        texto += c == 1 && r == 0 ? cientos[10] : cientos[c - 1];
-    }
-    const auto& unidades = esDenominador ? tablas.Partes : tablas.Unidades;
-    if (r < unidades.size()) {
-        texto += unidades[r];
-    } else if (r % 10 == 0) {
-        texto += (esDenominador ? tablas.DecenasPartes : tablas.Decenas)[r / 10 - 1];
-    } else {
-        texto += (esDenominador ? tablas.DecenasCompuestasPartes : tablas.DecenasCompuestas)[r / 10 - 1];
-        texto += unidades[r % 10];
-    }
-    if (g < escalas.size()) {
-        texto += esDenominador ? escalasPartes[g] : escalas[g];
+    texto += piezas.centenas[valor == 100 ? cienJusto : static_cast<std::size_t>(valor / 100)];
+    texto += piezas.resto[static_cast<std::size_t>(valor % 100)];
+    if (g < piezas.escalas.size()) {
+        texto += piezas.escalas[g];
     }
 }
 
@@ -149,19 +194,20 @@ std::string NumeroEnLetras(double valor, bool& esDenominador, Variante variante)
         return "número demasiado grande";
     }
     const Grupos grupos = Partir(magnitud);
+    const Piezas& piezas = esDenominador ? partes : cardinales;
     Letras numero;
     if (variante == Variante::ConMenos && valor < 0) {
-        numero += "menos ";
+        numero += menos;
     }
     const std::size_t signo = numero.Longitud();
     for (std::size_t g = grupos.mayor + 1; g-- > 0;) {
-        AgregarGrupo(numero, grupos.valor.at(g), g, esDenominador);
+        AgregarGrupo(numero, piezas, grupos.valor.at(g), g);
     }
     if (numero.Longitud() == signo) {
-        numero += "cero";
+        numero += cero;
     }
     if (conAvo) {
-        numero += "avo";
+        numero += avo;
     }
     return numero.Texto();
 }
