@@ -1,5 +1,5 @@
 // A 16-bit signed integer whose arithmetic is checked. Counters and option indexes are kept in it: leaving the range
-// -32768..32767 throws Desbordamiento, which only the event dispatch catches, to end the program.
+// -32768..32767 throws Desbordamiento, which ends the program (ui/Fatal.h).
 #pragma once
 
 #include <cstdint>

@@ -1,8 +1,6 @@
 #include "Application.h"
 
 #include "Accessible.h"
-#include "Dialogs.h"
-#include "Entero16.h"
 #include "Look.h"
 
 #include <QIcon>
@@ -50,14 +48,8 @@ bool Application::notify(QObject* receiver, QEvent* event)
     if (IsLateAlt(*event)) {
         return true;
     }
-    bool handled = true;
     ++m_depth;
-    try {
-        handled = QApplication::notify(receiver, event);
-    } catch (const numeros::Desbordamiento&) {
-        FatalBox("Un número se ha salido del intervalo permitido, de -32768 a 32767. El programa va a cerrarse.");
-        exit(EXIT_FAILURE);
-    }
+    const bool handled = QApplication::notify(receiver, event);
     --m_depth;
     if (m_depth == 0) {
         m_announcer.EventEnded(type);

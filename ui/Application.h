@@ -1,5 +1,4 @@
-// The application: its Spanish surroundings and its event dispatch, which is where announcements go out and where
-// leaving the 16-bit range ends the program.
+// The application: its Spanish surroundings and its event dispatch, which is where announcements go out.
 #pragma once
 
 #include "Announcer.h"

@@ -4,6 +4,7 @@
 #include "Announcer.h"
 #include "Bell.h"
 #include "EditWidget.h"
+#include "Fatal.h"
 #include "Strings.h"
 
 #include <QApplication>
@@ -110,7 +111,7 @@ Button::Button(const ControlDesign& design, FaceButton* button)
     Caption(design.text);
     QObject::connect(button, &QPushButton::clicked, button, [this] {
         if (OnClick) {
-            OnClick(Index());
+            Run([this] { OnClick(Index()); });
         }
     });
 }

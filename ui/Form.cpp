@@ -1,5 +1,6 @@
 #include "Form.h"
 
+#include "Fatal.h"
 #include "Silence.h"
 #include "Strings.h"
 
@@ -131,23 +132,30 @@ bool Form::event(QEvent* event)
 
 bool Form::eventFilter(QObject* watched, QEvent* event)
 {
-    if (watched == centralWidget() && event->type() == QEvent::Resize) {
+    KeyResult result = KeyResult::Swallow;
+    Run([&] { result = Handle(watched, *event); });
+    return result == KeyResult::Swallow || QMainWindow::eventFilter(watched, event);
+}
+
+KeyResult Form::Handle(QObject* watched, QEvent& event)
+{
+    if (watched == centralWidget() && event.type() == QEvent::Resize) {
         Arrange();
     }
     // A key that a box in a frame leaves alone comes to the frame too, and is none of the frame's.
     Control* control = watched == focusWidget() ? ControlOf(watched) : nullptr;
-    if (Control* other = ControlOf(watched); other != nullptr && IsFocusMove(*event)) {
+    if (Control* other = ControlOf(watched); other != nullptr && IsFocusMove(event)) {
         // The reader learns of the focus first: a box that is told of before is taken for the one in focus, and its
         // focus for no news.
-        Silently([&] { event->type() == QEvent::FocusIn ? other->GotFocus() : other->Validate(); });
+        Silently([&] { event.type() == QEvent::FocusIn ? other->GotFocus() : other->Validate(); });
     }
-    KeyResult result = KeyResult::Pass;
-    if (control != nullptr && event->type() == QEvent::KeyPress) {
-        result = KeyPressed(*control, *static_cast<QKeyEvent*>(event));
-    } else if (control != nullptr && event->type() == QEvent::InputMethod) {
-        Commit(*control, *static_cast<QInputMethodEvent*>(event));
+    if (control != nullptr && event.type() == QEvent::KeyPress) {
+        return KeyPressed(*control, static_cast<QKeyEvent&>(event));
     }
-    return result == KeyResult::Swallow || QMainWindow::eventFilter(watched, event);
+    if (control != nullptr && event.type() == QEvent::InputMethod) {
+        Commit(*control, static_cast<QInputMethodEvent&>(event));
+    }
+    return KeyResult::Pass;
 }
 
 void Form::BuildControls()

@@ -87,6 +87,7 @@ private:
     void BuildControls();
     void ChainTabOrder();
     void Arrange();
+    KeyResult Handle(QObject* watched, QEvent& event);
     KeyResult KeyPressed(Control& control, const QKeyEvent& event);
     static void Commit(Control& control, QInputMethodEvent& event);
     Control* ControlOf(const QObject* widget) const;

@@ -1,5 +1,6 @@
 #include "Menu.h"
 
+#include "Fatal.h"
 #include "Strings.h"
 
 #include <QActionGroup>
@@ -55,7 +56,7 @@ MenuItem::MenuItem(const MenuDesign& design, QAction& action) : m_design(design)
 {
     QObject::connect(&action, &QAction::triggered, &action, [this] {
         if (OnClick) {
-            OnClick(Index());
+            Run([this] { OnClick(Index()); });
         }
     });
 }

@@ -2,6 +2,7 @@
 
 #include "Announcer.h"
 #include "Bell.h"
+#include "Fatal.h"
 #include "MultiLineEdit.h"
 #include "OneLineEdit.h"
 #include "Silence.h"
@@ -147,7 +148,7 @@ KeyResult TextBox::KeyPressed(int keyAscii)
 void TextBox::Changed() const
 {
     if (OnChange) {
-        OnChange(Index());
+        Run([this] { OnChange(Index()); });
     }
 }
 

@@ -370,14 +370,6 @@ private:
 
 } // namespace
 
-// The program's fatal end leaves the functions of Qt by an exception, past the guards that they keep on their widgets.
-// The program is over then; only here does it go on, and would be told of the lost bookkeeping.
-// NOLINTNEXTLINE(bugprone-reserved-identifier,readability-identifier-naming): called by the sanitizer
-extern "C" const char* __lsan_default_suppressions()
-{
-    return "leak:QtSharedPointer::ExternalRefCountData::getAndRef";
-}
-
 int main(int argc, char** argv)
 {
     ui::Application application(argc, argv);

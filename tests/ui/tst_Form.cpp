@@ -1,3 +1,4 @@
+#include "Entero16.h"
 #include "SampleForm.h"
 #include "Support.h"
 
@@ -6,6 +7,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
+#include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QTimer>
 
@@ -379,6 +381,49 @@ private slots:
         QTRY_VERIFY(QApplication::activePopupWidget() != nullptr);
         QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
         QTRY_VERIFY(QApplication::activePopupWidget() == nullptr);
+    }
+
+    void a_number_out_of_range_ends_the_program_where_qt_calls_the_screen_data()
+    {
+        QTest::addColumn<std::function<void(sample::SampleForm&)>>("act");
+        const auto overflow = [](int) { std::ignore = numeros::Entero16(32767) + 1; };
+        QTest::addRow("button") << std::function([overflow](sample::SampleForm& form) {
+            form.The<ui::Button>("CbUno").OnClick = overflow;
+            Child<QPushButton>(form, "CbUno").click();
+        });
+        QTest::addRow("menu") << std::function([overflow](sample::SampleForm& form) {
+            form.The<ui::MenuItem>("MnuOpcLee").OnClick = overflow;
+            Child<QAction>(form, "MnuOpcLee").trigger();
+        });
+        QTest::addRow("text") << std::function([overflow](sample::SampleForm& form) {
+            form.All<ui::TextBox>("Text1")[0].OnChange = overflow;
+            Child<QLineEdit>(form, "Text1(0)").insert("7");
+        });
+        QTest::addRow("key") << std::function([overflow](sample::SampleForm& form) {
+            form.All<ui::TextBox>("Text1")[0].OnKeyPress = [overflow](int Index, int) {
+                overflow(Index);
+                return ui::KeyResult::Pass;
+            };
+            QKeyEvent key(QEvent::KeyPress, Qt::Key_7, Qt::NoModifier, "7");
+            QObject& filter = form;
+            QVERIFY(filter.eventFilter(&Child<QLineEdit>(form, "Text1(0)"), &key));
+        });
+    }
+    void a_number_out_of_range_ends_the_program_where_qt_calls_the_screen()
+    {
+        QFETCH(std::function<void(sample::SampleForm&)>, act);
+        Open();
+        Child<QWidget>(*m_form, "Text1(0)").setFocus();
+        QString told;
+        QTimer::singleShot(0, m_form, [&] {
+            WithDialog([&] { act(*m_form); },
+                       [&told](QWidget& box) {
+                           told = dynamic_cast<QMessageBox&>(box).text();
+                           QTest::keyClick(&box, Qt::Key_Return);
+                       });
+        });
+        QCOMPARE(QApplication::exec(), EXIT_FAILURE);
+        QVERIFY2(told.startsWith("Un número se ha salido"), qPrintable(told));
     }
 
     void after_a_window_closed_with_its_menu_open_another_has_the_focus()
