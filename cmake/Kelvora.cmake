@@ -48,6 +48,7 @@ function(kelvora_session_tests label)
         set_tests_properties(${label}_${suite} PROPERTIES
             TIMEOUT 600
             LABELS ${label}
+            RUN_SERIAL ON
             ENVIRONMENT "KELVORA=$<TARGET_FILE:kelvora>;KELVORA_MUTE=$<TARGET_FILE:kelvora_mute>;KELVORA_QT=${Qt6_VERSION};PYTHONDONTWRITEBYTECODE=1")
     endforeach()
 endfunction()
