@@ -15,7 +15,8 @@ sys.path.insert(0, str(pathlib.Path(__file__).parent.parent / "support"))
 from desktop import LIMIT, AccessibleDesktop, wait_for
 
 READY = "END Lector de pantalla activado."
-QUIET = 0.5  # seconds without a new utterance after which the reader has finished
+QUIET = 25  # looks, 20 ms apart, at which nothing new is said after which the reader has finished. Looks, not time: it may
+# pass for all while the machine stands still.
 
 SPEECHD_CONF = """\
 LogLevel 3
@@ -182,13 +183,13 @@ class Session(AccessibleDesktop):
         so many, or the limit has passed, and then until the voice has been quiet for a while. Letters pressed beside Alt
         or Control, which the reader may echo or not, are left out."""
         self.await_heard(at_least)
-        last = None
-        since = time.monotonic()
-        while last is None or time.monotonic() - since < QUIET or self._speaking(last):
-            now = self._lines()
-            if now != last:
-                last, since = now, time.monotonic()
+        last = self._lines()
+        quiet = 0
+        while quiet < QUIET or self._speaking(last):
             time.sleep(0.02)
+            now = self._lines()
+            quiet = quiet + 1 if now == last else 0
+            last = now
         new = last[self._read:]
         self._read = len(last)
         ended = [line[4:] for line in new if line.startswith("END ")]

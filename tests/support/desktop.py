@@ -47,9 +47,10 @@ class Desktop:
 
     def _set_up(self):
         read, write = os.pipe()
-        # Without -noreset it starts anew when its first client goes, and refuses the window manager meanwhile.
+        # Without -noreset it starts anew when its first client goes, and refuses the window manager meanwhile. -r: no key
+        # repeats itself, lest one count for many where the machine stands still between its press and its release.
         self.display = self.start("Xvfb", "-displayfd", str(write), "-screen", "0", f"{self._screen}x24", "-nolisten", "tcp",
-                                  "-noreset", pass_fds=[write])
+                                  "-noreset", "-r", pass_fds=[write])
         os.close(write)
         with os.fdopen(read) as pipe:
             number = pipe.readline().strip()
