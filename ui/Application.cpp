@@ -69,23 +69,21 @@ void Application::MakeSelectionLegible()
     }
 }
 
-// With a screen reader on, Qt asks it about each key press and delivers the key again later, but access keys at once:
-// of Alt+S the S can come before the Alt, of Alt alone the release before the press. The menu bar would then take that
-// Alt for one pressed alone, or for a second one; a menu just opened by its access key would close.
+// With a screen reader on, Qt asks it about each key press and delivers the key again later: the Alt of Alt+S can come
+// after the S, and that of Alt alone after its release. The menu bar would then take it for one pressed alone, or for a
+// second one; a menu just opened by its access key would close.
 bool Application::IsLateAlt(const QEvent& event)
 {
-    if (event.type() == QEvent::Shortcut) {
-        m_altIsFresh = false;
-    }
-    const bool isKey = event.type() == QEvent::KeyPress || event.type() == QEvent::KeyRelease;
-    if (!isKey || static_cast<const QKeyEvent&>(event).key() != Qt::Key_Alt) {
+    const QEvent::Type type = event.type();
+    if (type != QEvent::ShortcutOverride && type != QEvent::KeyPress && type != QEvent::KeyRelease) {
         return false;
     }
-    if (event.spontaneous()) { // the finger's own, not its second delivery
-        m_altIsFresh = event.type() == QEvent::KeyPress;
+    const bool isAlt = static_cast<const QKeyEvent&>(event).key() == Qt::Key_Alt;
+    if (event.spontaneous()) { // the finger's own, not its second delivery; an access key is not delivered, only offered
+        m_altIsFresh = isAlt && type != QEvent::KeyRelease;
         return false;
     }
-    return event.type() == QEvent::KeyPress && !m_altIsFresh;
+    return isAlt && type == QEvent::KeyPress && !m_altIsFresh;
 }
 
 void End()

@@ -10,6 +10,7 @@
 #include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QTimer>
+#include <qpa/qwindowsysteminterface.h>
 
 using namespace support;
 using ui::KeyResult;
@@ -354,23 +355,44 @@ private slots:
         QCOMPARE(clicked, 1);
     }
 
-    void an_alt_that_comes_after_its_access_key_does_not_lead_to_the_menus()
+    void an_alt_that_comes_again_does_not_lead_to_the_menus_data()
     {
+        QTest::addColumn<bool>("beforeItsRelease");
+        QTest::addColumn<Qt::Key>("letter");
+        QTest::addColumn<QString>("focus");
+        QTest::addRow("after its release, access key") << false << Qt::Key_C << "Command2(0)";
+        QTest::addRow("after its release, any letter") << false << Qt::Key_X << "Text1(0)";
+        QTest::addRow("before its release, access key") << true << Qt::Key_C << "Command2(0)";
+        QTest::addRow("before its release, any letter") << true << Qt::Key_X << "Text1(0)";
+    }
+    void an_alt_that_comes_again_does_not_lead_to_the_menus()
+    {
+        QFETCH(bool, beforeItsRelease);
+        QFETCH(Qt::Key, letter);
+        QFETCH(QString, focus);
         Open();
-        const auto alt = [this](QEvent::Type type, bool spontaneous) {
+        Child<QWidget>(*m_form, "Text1(0)").setFocus();
+        const auto finger = [this](QEvent::Type type, Qt::Key key) {
+            QWindowSystemInterface::handleKeyEvent<QWindowSystemInterface::SynchronousDelivery>(
+                m_form->windowHandle(), type, key, Qt::AltModifier);
+        };
+        const auto again = [this](QEvent::Type type) {
             QKeyEvent event(type, Qt::Key_Alt, Qt::AltModifier);
-            if (spontaneous) {
-                QSpontaneKeyEvent::setSpontaneous(&event);
-            }
             QCoreApplication::sendEvent(m_form->windowHandle(), &event);
         };
-        // As they come with a screen reader on: the finger's, the access key, and the finger's once more.
-        alt(QEvent::KeyPress, true);
-        Press(Qt::Key_C, Qt::AltModifier);
-        alt(QEvent::KeyRelease, true);
-        alt(QEvent::KeyPress, false);
-        alt(QEvent::KeyRelease, false);
-        QCOMPARE(Focus(), "Command2(0)");
+        // As they come with a screen reader on: the finger's, and at some time the Alt once more.
+        finger(QEvent::KeyPress, Qt::Key_Alt);
+        finger(QEvent::KeyPress, letter);
+        if (beforeItsRelease) {
+            again(QEvent::KeyPress);
+            finger(QEvent::KeyRelease, Qt::Key_Alt);
+        } else {
+            finger(QEvent::KeyRelease, Qt::Key_Alt);
+            again(QEvent::KeyPress);
+        }
+        again(QEvent::KeyRelease);
+        finger(QEvent::KeyRelease, letter);
+        QCOMPARE(Focus(), focus);
         QVERIFY(m_form->menuBar()->activeAction() == nullptr);
     }
 
