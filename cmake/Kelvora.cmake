@@ -46,7 +46,7 @@ function(kelvora_session_tests label)
             COMMAND ${DBUS_RUN_SESSION} -- /usr/bin/python3 -m unittest -v ${suite}
             WORKING_DIRECTORY ${CMAKE_CURRENT_SOURCE_DIR})
         set_tests_properties(${label}_${suite} PROPERTIES
-            TIMEOUT 600
+            TIMEOUT 1200
             LABELS ${label}
             RUN_SERIAL ON
             ENVIRONMENT "KELVORA=$<TARGET_FILE:kelvora>;KELVORA_MUTE=$<TARGET_FILE:kelvora_mute>;KELVORA_QT=${Qt6_VERSION};PYTHONDONTWRITEBYTECODE=1")

@@ -38,6 +38,13 @@ OLD = tuple(int(part) for part in os.environ["KELVORA_QT"].split(".")[:2]) < (6,
 ORCA_SETTINGS = {"enableKeyEcho": True, "enableFunctionKeys": False, "enableModifierKeys": False, "enableActionKeys": False,
                  "enableNavigationKeys": False}
 
+# The reader gives a program up for dead after 0.8 s without an answer, and then says nothing more of it. Here the machine
+# may stand still for as long.
+ORCA_PATIENCE = f"""\
+from gi.repository import Atspi
+Atspi.set_timeout({LIMIT * 1000}, {LIMIT * 1000})
+"""
+
 ACCESSIBILITY_BUS = """\
 import gi
 gi.require_version("Atspi", "2.0")
@@ -100,10 +107,12 @@ class Session(AccessibleDesktop):
         wait_for(lambda: list(self.home.glob("runtime/speech-dispatcher/speechd.sock")), "Speech Dispatcher")
 
     def _set_reader(self):
-        settings = self.home / ".local/share/orca/user-settings.conf"
-        settings.parent.mkdir(parents=True)
-        settings.write_text(json.dumps({"general": ORCA_SETTINGS, "pronunciations": {}, "keybindings": {}, "profiles": {
-            "default": ORCA_SETTINGS | {"profile": ["Default", "default"], "pronunciations": {}, "keybindings": {}}}}))
+        folder = self.home / ".local/share/orca"
+        folder.mkdir(parents=True)
+        (folder / "orca-customizations.py").write_text(ORCA_PATIENCE)
+        (folder / "user-settings.conf").write_text(json.dumps({
+            "general": ORCA_SETTINGS, "pronunciations": {}, "keybindings": {}, "profiles": {
+                "default": ORCA_SETTINGS | {"profile": ["Default", "default"], "pronunciations": {}, "keybindings": {}}}}))
 
     def start_reader(self):
         for _ in range(5):  # it does not always come up at once
