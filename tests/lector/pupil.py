@@ -247,15 +247,15 @@ class Lesson(unittest.TestCase):
             Perhaps(title).drop_from(heard)  # see expect_window
         self.assertEqual(heard, box)
 
-    def press_return_for_box(self, title, text):
-        """Presses Enter, which opens a message box."""
+    def press_return_for_box(self, title, text, answer="Aceptar"):
+        """Presses Enter, which opens a message box with the focus on the button `answer`."""
         self.session.press("Return")
         heard = self.hear(3)
         if OLD:
-            self.assertEqual(heard, [f"alerta {title}.", text] + button("Aceptar"))
+            self.assertEqual(heard, [f"alerta {title}.", text] + button(answer))
         else:
             # Orca 48 gets keys beside the program and not before it: the box can be there before the key that opened
             # it has been noticed, and that key then cuts off what had begun to be read.
             self.assertTrue(self.session.presented(f"alerta {title}."))
             self.assertTrue(self.session.presented(text))
-            self.assertEqual(heard[-1:], button("Aceptar"))
+            self.assertEqual(heard[-1:], button(answer))

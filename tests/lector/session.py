@@ -11,12 +11,15 @@ import subprocess
 import sys
 import time
 
-sys.path.insert(0, str(pathlib.Path(__file__).parent.parent / "support"))
+SUPPORT = pathlib.Path(__file__).resolve().parent.parent / "support"
+sys.path.insert(0, str(SUPPORT))
 from desktop import LIMIT, AccessibleDesktop, wait_for
 
 READY = "END Lector de pantalla activado."
-QUIET = 25  # looks, 20 ms apart, at which nothing new is said after which the reader has finished. Looks, not time: it may
-# pass for all while the machine stands still.
+
+# So many looks, 20 ms apart, at which there is nothing new, and the reader has finished. Looks, not time, which passes
+# while the machine stands still.
+QUIET = 25
 
 SPEECHD_CONF = """\
 LogLevel 3
@@ -38,17 +41,8 @@ OLD = tuple(int(part) for part in os.environ["KELVORA_QT"].split(".")[:2]) < (6,
 ORCA_SETTINGS = {"enableKeyEcho": True, "enableFunctionKeys": False, "enableModifierKeys": False, "enableActionKeys": False,
                  "enableNavigationKeys": False}
 
-# The reader gives a program up for dead after 0.8 s without an answer, and then says nothing more of it. Here the machine
-# may stand still for as long.
-ORCA_PATIENCE = f"""\
-from gi.repository import Atspi
-Atspi.set_timeout({LIMIT * 1000}, {LIMIT * 1000})
-"""
-
-ACCESSIBILITY_BUS = """\
-import gi
-gi.require_version("Atspi", "2.0")
-from gi.repository import Atspi, Gio, GLib
+ACCESSIBILITY_BUS = (SUPPORT / "accessibility.py").read_text() + """
+from gi.repository import Gio, GLib
 session = Gio.bus_get_sync(Gio.BusType.SESSION)
 address = session.call_sync("org.a11y.Bus", "/org/a11y/bus", "org.a11y.Bus", "GetAddress", None, None, 0, -1, None)
 flags = Gio.DBusConnectionFlags
@@ -103,31 +97,40 @@ class Session(AccessibleDesktop):
         (conf / "clients" / "none.conf").write_text("")
         (conf / "modules" / "transcript.conf").write_text(str(self.transcript))
         self.transcript.touch()
-        self.start("speech-dispatcher", "--run-single", "--config-dir", str(conf), "--log-dir", str(self.home))
-        wait_for(lambda: list(self.home.glob("runtime/speech-dispatcher/speechd.sock")), "Speech Dispatcher")
+        socket = self.home / "runtime/speech-dispatcher/speechd.sock"
+        # Debian 13's now and then hangs over a second voice of its own choice, which is not installed.
+        self._start_surely("speech-dispatcher", "--run-single", "--config-dir", str(conf), "--log-dir", str(self.home),
+                           ready=lambda _: wait_for(socket.exists, "Speech Dispatcher", 15))
 
     def _set_reader(self):
         folder = self.home / ".local/share/orca"
         folder.mkdir(parents=True)
-        (folder / "orca-customizations.py").write_text(ORCA_PATIENCE)
+        (folder / "orca-customizations.py").symlink_to(SUPPORT / "accessibility.py")
         (folder / "user-settings.conf").write_text(json.dumps({
             "general": ORCA_SETTINGS, "pronunciations": {}, "keybindings": {}, "profiles": {
                 "default": ORCA_SETTINGS | {"profile": ["Default", "default"], "pronunciations": {}, "keybindings": {}}}}))
 
     def start_reader(self):
-        for _ in range(5):  # it does not always come up at once
-            before = self.transcript.read_text().count(READY)
-            self._reader = self.start("/usr/bin/orca", f"--debug-file={self.orca_debug}")
-            try:
-                wait_for(lambda: self.transcript.read_text().count(READY) > before, "Orca", 15)
-                time.sleep(0.5)  # until it is on the bus itself
-                self._ask(PING)
-                break
-            except (TimeoutError, subprocess.SubprocessError):
-                self.end(self._reader)
-        else:
-            raise RuntimeError(f"Orca did not start in five tries; its logs are in {self.home}")
+        def ready(before):
+            wait_for(lambda: READY in self._lines()[before:], "Orca", 15)
+            time.sleep(0.5)  # until it is on the bus itself
+            self._ask(PING)
+
+        self._reader = self._start_surely("/usr/bin/orca", f"--debug-file={self.orca_debug}", ready=ready)
         self.heard()
+
+    def _start_surely(self, *command, ready):
+        """Starts a program that does not always come up at once: a few times, until `ready`, which is given the number of
+        lines in the transcript before, ends without an error."""
+        for _ in range(5):
+            before = len(self._lines())
+            child = self.start(*command)
+            try:
+                ready(before)
+                return child
+            except (TimeoutError, subprocess.SubprocessError):
+                self.end(child)
+        raise RuntimeError(f"{command[0]} did not start in five tries; its logs are in {self.home}")
 
     def end_reader(self):
         self.end(self._reader)

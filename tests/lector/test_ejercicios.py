@@ -83,9 +83,8 @@ class Cantidad(ExerciseLesson):
         self.session.press("F3")
         self.expect_input("Introducir cantidad", "Introduzca la cantidad:", f"{CARDINALS.index(match[3])}")
         self.type("1", replacing=True)
-        self.session.press("Return")
-        self.session.wait_heard("desea continuar")
-        self.hear()
+        self.press_return_for_box("Introducir cantidad", "La división de la cantidad entre el denominador no es exacta "
+                                  "¿desea continuar?", "Sí")
         self.session.press("alt+s")
         self.session.wait_heard(" de un")
         self.hear()

@@ -1,5 +1,6 @@
 """The package in a new system: installed, used from its menu entry, removed, and nothing left of it."""
 
+import contextlib
 import os
 import pathlib
 import subprocess
@@ -29,7 +30,11 @@ def run(*command):
 
 
 def running():
-    return any(path.read_text().strip() == "kelvora" for path in pathlib.Path("/proc").glob("[0-9]*/comm"))
+    for path in pathlib.Path("/proc").glob("[0-9]*/comm"):
+        with contextlib.suppress(OSError):  # it may have ended meanwhile
+            if path.read_text().strip() == "kelvora":
+                return True
+    return False
 
 
 class Package(unittest.TestCase):

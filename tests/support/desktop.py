@@ -125,9 +125,7 @@ class AccessibleDesktop(Desktop):
     def box_texts(self, title):
         """The texts of the boxes of a window of the program, by their names, or nothing where there is no such window yet."""
         os.environ |= self.env  # for what asks the bus here
-        import gi
-        gi.require_version("Atspi", "2.0")
-        from gi.repository import Atspi
+        from accessibility import Atspi
         texts = {}
 
         def collect(thing):
