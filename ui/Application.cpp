@@ -79,7 +79,7 @@ bool Application::IsLateAlt(const QEvent& event)
         return false;
     }
     const bool isAlt = static_cast<const QKeyEvent&>(event).key() == Qt::Key_Alt;
-    if (event.spontaneous()) { // the finger's own, not its second delivery; an access key is not delivered, only offered
+    if (event.spontaneous()) { // the finger's own, not its second delivery; an access key is offered and not delivered
         m_altIsFresh = isAlt && type != QEvent::KeyRelease;
         return false;
     }
