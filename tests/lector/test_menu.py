@@ -19,9 +19,10 @@ class Menu(Lesson):
         texts = self.hear()
         self.assertEqual(texts[-1:], button("Aceptar"))
         if OLD:
-            self.assertEqual(texts[0], "alerta Kelvora.")
-            self.assertIn("Autores", texts[1])
-            self.assertEqual(len(texts), 3)
+            self.assertEqual(texts[-3], "alerta Kelvora.")
+            self.assertIn("Autores", texts[-2])
+            # The menu closes first, and the reader may have the time to say what has the focus behind it.
+            self.assertIn(texts[:-3], ([], button(MENU[0])))
         self.assertTrue(self.session.presented("alerta Kelvora."))
         self.press("Return", window_again("KELVORA"), button(MENU[0]))
         self.press("shift+Tab", button("Salir"))

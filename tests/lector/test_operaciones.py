@@ -119,7 +119,8 @@ class Suma(OperationLesson):
         self.press("alt+o", ["Cantidades."])
         self.press("Down", ["Denominador."])
         self.press("Down", [SUBMENU_HELP])
-        self.press_return_for_box("Combinaciones de teclas", HELP)
+        behind = editable("Denominador del resultado", f"{self.d1}")
+        self.press_return_for_box("Combinaciones de teclas", HELP, behind=behind)
         self.press("Return", window_again("SUMA DE FRACCIONES"), editable("Denominador del resultado", f"{self.d1}"))
         self.press("Tab", button("Hecho"))
         self.press("F2", self.says("No hay ninguna fracción seleccionada"))
@@ -246,7 +247,7 @@ class Cociente(OperationLesson):
         self.press("Return", button("Continuar"), said("Resultado correcto "))
         self.press("alt+o", ["Cantidades."])
         self.press("Down", ["Combinaciones de teclas."])
-        self.press_return_for_box("Combinaciones de teclas", HELP)
+        self.press_return_for_box("Combinaciones de teclas", HELP, behind=button("Continuar"))
         self.press("Return", window_again(self.title), button("Continuar"))
         self.press("alt+F4", window_again("KELVORA"), button(self.name))
 
