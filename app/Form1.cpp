@@ -54,7 +54,7 @@ constexpr int salir = entradas.size();
 
 constexpr auto controles = [] {
     std::array<ui::ControlDesign, entradas.size() + 1> buttons;
-    for (int i = 0; i < static_cast<int>(buttons.size()); ++i) {
+    for (int i = 0; i < std::ssize(buttons); ++i) {
         buttons[i] = {.kind = ui::Kind::Button,
                       .name = "Command1",
                       .index = i,

@@ -17,39 +17,71 @@ function(kelvora_warnings target)
     endif()
 endfunction()
 
+# For sources with Q_OBJECT. What is made of them is the target `generated`, for whoever reads sources without building.
+set(CMAKE_AUTOGEN_ORIGIN_DEPENDS OFF)
+add_custom_target(generated)
+function(kelvora_automoc target)
+    set_target_properties(${target} PROPERTIES AUTOMOC ON)
+    add_dependencies(generated ${target}_autogen)
+endfunction()
+
 # A screen of the size that school computers have, without a display; on Windows that of the machine and its style.
 if(NOT WIN32)
     set(KELVORA_TEST_SCREEN
         QT_STYLE_OVERRIDE=Fusion QT_QPA_PLATFORM=offscreen:configfile=${PROJECT_SOURCE_DIR}/tests/support/screen.json)
 endif()
 
+# A test that needs no display, with what is to be set in its environment beyond the usual.
+function(kelvora_inprocess test)
+    set_tests_properties(${test} PROPERTIES
+        TIMEOUT 300
+        LABELS "inprocess;quick"
+        RESOURCE_GROUPS processors:1
+        ENVIRONMENT "${KELVORA_TEST_SCREEN};QT_FONT_DPI=96;LC_ALL=C.UTF-8;${ARGN}")
+endfunction()
+
 # A Qt Test executable of one source file, run without a display. It links the libraries that it tests and no others.
 function(kelvora_test name)
     cmake_parse_arguments(ARG "" "" "LINK" ${ARGN})
     add_executable(${name} ${name}.cpp)
-    set_target_properties(${name} PROPERTIES AUTOMOC ON)
+    kelvora_automoc(${name})
     target_link_libraries(${name} PRIVATE ${ARG_LINK} Qt6::Test)
     kelvora_warnings(${name})
     add_test(NAME ${name} COMMAND ${name})
-    set_tests_properties(${name} PROPERTIES
-        TIMEOUT 300
-        LABELS inprocess
-        ENVIRONMENT "${KELVORA_TEST_SCREEN};QT_FONT_DPI=96;LC_ALL=C.UTF-8")
+    kelvora_inprocess(${name})
 endfunction()
 
-# Suites of Python in the calling folder that use the program on a desktop, as LABEL_SUITE. The bus of the session is the
-# test's own, and Orca's modules and those that ask the accessibility bus are those of the system's Python.
-function(kelvora_session_tests label)
-    find_program(DBUS_RUN_SESSION dbus-run-session REQUIRED)
+# What each test on a desktop finds in its environment, and which programs have to be built before. They are the target
+# `desktop`.
+function(kelvora_desktop_program name variable)
+    add_dependencies(desktop ${name})
+    set_property(GLOBAL APPEND PROPERTY KELVORA_DESKTOP_ENVIRONMENT "${variable}=$<TARGET_FILE:${name}>")
+endfunction()
+
+# The tests of a suite of Python in the calling folder that use the program on a desktop, each alone, as
+# LABEL_CLASS_TEST. They wait for most of their time, so that several share a processor.
+function(kelvora_desktop_tests label)
+    get_property(environment GLOBAL PROPERTY KELVORA_DESKTOP_ENVIRONMENT)
     foreach(suite ${ARGN})
-        add_test(NAME ${label}_${suite}
-            COMMAND ${DBUS_RUN_SESSION} -- /usr/bin/python3 -m unittest -v ${suite}
-            WORKING_DIRECTORY ${CMAKE_CURRENT_SOURCE_DIR})
-        set_tests_properties(${label}_${suite} PROPERTIES
-            TIMEOUT 1200
-            LABELS ${label}
-            RUN_SERIAL ON
-            ENVIRONMENT "KELVORA=$<TARGET_FILE:kelvora>;KELVORA_MUTE=$<TARGET_FILE:kelvora_mute>;KELVORA_QT=${Qt6_VERSION};PYTHONDONTWRITEBYTECODE=1")
+        set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${suite}.py)
+        file(STRINGS ${suite}.py lines REGEX "^class |^    def test_")
+        foreach(line ${lines})
+            if(line MATCHES "^class ([A-Za-z0-9_]+)")
+                set(class ${CMAKE_MATCH_1})
+            elseif(line MATCHES "def (test_([a-z0-9_]+))")
+                set(test ${label}_${class}_${CMAKE_MATCH_2})
+                add_test(NAME ${test}
+                    COMMAND ${PROJECT_SOURCE_DIR}/tests/support/alone /usr/bin/python3 -m unittest -v
+                            ${suite}.${class}.${CMAKE_MATCH_1}
+                    WORKING_DIRECTORY ${CMAKE_CURRENT_SOURCE_DIR})
+                set_tests_properties(${test} PROPERTIES
+                    TIMEOUT 1200
+                    LABELS "${label};desktop"
+                    RESOURCE_GROUPS desktops:1
+                    COST 60 # begun before what is short
+                    ENVIRONMENT "${environment};LOCPATH=${PROJECT_BINARY_DIR}/locales;KELVORA_QT=${Qt6_VERSION};PYTHONDONTWRITEBYTECODE=1")
+            endif()
+        endforeach()
     endforeach()
 endfunction()
 
@@ -60,10 +92,9 @@ function(kelvora_forbidden_include name)
     add_library(${name} OBJECT EXCLUDE_FROM_ALL ${CMAKE_CURRENT_BINARY_DIR}/${name}.cpp)
     target_link_libraries(${name} PRIVATE ${ARG_FROM})
     add_test(NAME ${name} COMMAND ${CMAKE_COMMAND} --build ${CMAKE_BINARY_DIR} --target ${name})
+    kelvora_inprocess(${name} LC_ALL=C)
     set_tests_properties(${name} PROPERTIES
-        LABELS inprocess
-        RUN_SERIAL ON
-        ENVIRONMENT "LC_ALL=C"
+        RESOURCE_LOCK build
         PASS_REGULAR_EXPRESSION "${ARG_HEADER}: No such file|${ARG_HEADER}' file not found")
 endfunction()
 

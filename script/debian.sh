@@ -1,29 +1,55 @@
 # New Debian systems in folders, for tests that must not find by chance what this machine has. To be sourced by bash, as
 # root, after lib.sh.
 
-# set_up_debian SUITE FOLDER: installs the smallest system of that Debian where there is none, and copies this tree there.
-set_up_debian() {
-    local suite=$1 folder=$2 log
-    need debootstrap
-    if [ ! -d "$folder/usr/bin" ]; then
-        echo "Instalando Debian $suite en $folder"
+# new_debian SUITE FOLDER [PACKAGE...]: puts a new system of that Debian into a folder that is not there yet, the smallest
+# one and these packages. It is a copy of one that is kept for a week.
+new_debian() {
+    local suite=$1 folder=$2 kept lock log
+    shift 2
+    kept=$cache/debian/$suite-$(echo "${DEBIAN_MIRROR:-} $*" | sha256sum | cut -c1-12)
+    mkdir -p "$cache/debian" "$(dirname "$folder")"
+    exec {lock}>"$kept.lock" && flock "$lock" || fail "no se puede escribir en $cache"
+    if [ -z "$(find "$kept" -maxdepth 0 -mtime -7 2>/dev/null)" ]; then
+        find "$cache/debian" -mindepth 1 -maxdepth 1 -mtime +7 -exec rm -rf --one-file-system {} +
+        rm -rf --one-file-system "$kept" "$kept.new"
         log=$(mktemp)
-        debootstrap --variant=minbase "$suite" "$folder" ${DEBIAN_MIRROR:+"$DEBIAN_MIRROR"} >"$log" 2>&1 </dev/null ||
-            fail "no se ha podido instalar Debian $suite (detalles en $log)"
+        if [ $# -eq 0 ]; then
+            echo "Instalando Debian $suite"
+            need debootstrap
+            debootstrap --variant=minbase "$suite" "$kept.new" ${DEBIAN_MIRROR:+"$DEBIAN_MIRROR"} >"$log" 2>&1 </dev/null
+        else
+            new_debian "$suite" "$kept.new"
+            echo "Instalando en Debian $suite: $*"
+            (in_debian "$kept.new" sh -c 'apt-get update && apt-get install -y --no-install-recommends "$@" && apt-get clean' \
+                sh "$@") >"$log" 2>&1
+        fi || fail "no se ha podido instalar Debian $suite (detalles en $log)"
         rm -f "$log"
+        touch "$kept.new"
+        mv "$kept.new" "$kept"
     fi
-    mkdir -p "$folder/kelvora"
-    tar -c --exclude=./build --exclude=./.git . | tar -x -C "$folder/kelvora" || fail "no se ha podido copiar a $folder"
+    cp -a --reflink=auto "$kept" "$folder" || fail "no se ha podido copiar a $folder"
+    exec {lock}>&-
 }
 
-# in_debian FOLDER COMMAND...: runs a command in that system's copy of this tree. Its mounts and processes are its own and
-# end with it, so that nothing of this machine is left in the folder.
+# in_debian FOLDER COMMAND...: runs a command in that system, in its copy of this tree. Its mounts and processes are its
+# own and end with it, so that nothing of this machine is left in the folder. What is compiled there is kept here where
+# the system has the folder for it.
 in_debian() {
-    unshare --mount --pid --fork --kill-child bash -s -- "$@" <<'INSIDE' || fail "ha fallado en $1: ${*:2}"
-mount --rbind /dev "$1/dev" && mount -t proc proc "$1/proc" || exit
+    cache=$cache unshare --mount --pid --fork --kill-child bash -s -- "$@" <<'INSIDE' || fail "ha fallado en $1: ${*:2}"
 folder=$1
 shift
-exec chroot "$folder" /usr/bin/env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin HOME=/root LANG=C.UTF-8 \
+# A mount of its own, or nobody in there could have further ones.
+mount --bind "$folder" "$folder" && mount --rbind /dev "$folder/dev" && mount -t proc proc "$folder/proc" && mkdir -p "$folder/kelvora" || exit
+if [ -d "$folder/root/.cache/kelvora/ccache" ]; then
+    mkdir -p "$cache/ccache" && mount --bind "$cache/ccache" "$folder/root/.cache/kelvora/ccache" || exit
+fi
+exec chroot "$folder" /usr/bin/env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin HOME=/root LANG=C.UTF-8 DEBIAN_FRONTEND=noninteractive \
     sh -c 'cd /kelvora && exec "$@"' sh "$@" </dev/null
 INSIDE
+}
+
+# copy_tree FOLDER: copies this tree into that system.
+copy_tree() {
+    mkdir -p "$1/kelvora"
+    tar -c --exclude=./build --exclude=./.git . | tar -x -C "$1/kelvora" || fail "no se ha podido copiar a $1"
 }

@@ -1,6 +1,9 @@
 # Shared by the scripts: packages, builds and one clear line where something goes wrong. To be sourced by bash from the
 # top of the project.
 
+# What makes the next run quicker and is never needed.
+cache=${XDG_CACHE_HOME:-$HOME/.cache}/kelvora
+
 fail() {
     printf 'kelvora: %s\n' "$*" >&2
     exit 1
@@ -14,39 +17,46 @@ as_root() {
     if [ "$(id -u)" -eq 0 ]; then "$@"; else sudo "$@"; fi
 }
 
-# need PACKAGE...: installs what is missing of Debian's packages.
+# need PACKAGE...: installs what is missing of Debian's packages. Scripts beside each other do so one after another.
 need() {
     command -v dpkg-query >/dev/null || fail "este programa instala sus dependencias solo en Debian 12 o posterior"
-    local missing=() package log
+    local missing=() package log lock
+    exec {lock}>"${TMPDIR:-/tmp}/kelvora-packages.$(id -u)" && flock "$lock" || fail "no se puede escribir en ${TMPDIR:-/tmp}"
     for package in "$@"; do
         is_installed "$package" || missing+=("$package")
     done
-    [ ${#missing[@]} -eq 0 ] && return
-    [ "$(id -u)" -eq 0 ] || command -v sudo >/dev/null ||
-        fail "faltan paquetes y para instalarlos se necesita ser root o tener sudo: ${missing[*]}"
-    echo "Instalando: ${missing[*]}"
-    log=$(mktemp)
-    as_root apt-get update >"$log" 2>&1 &&
-        as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y --no-install-recommends "${missing[@]}" \
-            >>"$log" 2>&1 </dev/null ||
-        fail "no se ha podido instalar: ${missing[*]} (detalles en $log)"
-    rm -f "$log"
+    if [ ${#missing[@]} -gt 0 ]; then
+        [ "$(id -u)" -eq 0 ] || command -v sudo >/dev/null ||
+            fail "faltan paquetes y para instalarlos se necesita ser root o tener sudo: ${missing[*]}"
+        echo "Instalando: ${missing[*]}"
+        log=$(mktemp)
+        as_root apt-get update >"$log" 2>&1 &&
+            as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y --no-install-recommends "${missing[@]}" \
+                >>"$log" 2>&1 </dev/null ||
+            fail "no se ha podido instalar: ${missing[*]} (detalles en $log)"
+        rm -f "$log"
+    fi
+    exec {lock}>&-
 }
 
 build_packages=(g++ cmake ninja-build qt6-base-dev qt6-base-dev-tools libgl-dev)
 run_packages=(qt6-translations-l10n fonts-liberation fonts-dejavu-core fonts-comic-neue at-spi2-core)
-if [ "$(. /etc/os-release && echo "${VERSION_ID:-13}")" -ge 13 ]; then
+if [ "${debian:-$(. /etc/os-release && echo "${VERSION_ID:-13}")}" -ge 13 ]; then
     run_packages+=(fonts-liberation-sans-narrow) # before, in fonts-liberation
 fi
-test_packages=(qt6-base-private-dev strace xvfb openbox xdotool dbus-daemon locales python3 orca speech-dispatcher
+test_packages=(ccache qt6-base-private-dev strace xvfb openbox xdotool dbus-daemon locales python3 orca speech-dispatcher
     speech-dispatcher-audio-plugins python3-speechd python3-pyatspi x11-utils
     pandoc librsvg2-bin desktop-file-utils appstream tidy man-db libbenchmark-dev libicu-dev
     faketime x11-xserver-utils)
 
-# build PRESET [TARGET...]: configures what is not, and builds what is not up to date.
+# build PRESET [TARGET...]: configures what is not, and builds what is not up to date. What has been compiled once is not
+# compiled again, in whatever folder the tree lies, where there is ccache.
 build() {
     local preset=$1 log
     shift
+    if command -v ccache >/dev/null; then
+        export CMAKE_CXX_COMPILER_LAUNCHER=ccache CCACHE_DIR=$cache/ccache CCACHE_BASEDIR=$PWD CCACHE_NOHASHDIR=1
+    fi
     log=build/$preset.log
     mkdir -p build
     { [ -f "build/$preset/build.ninja" ] || cmake --preset "$preset"; } >"$log" 2>&1 &&

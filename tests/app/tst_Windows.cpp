@@ -345,8 +345,7 @@ private slots:
         for (const auto& [wider, higher] : {std::pair(1.25, 1.25), std::pair(1.5, 2.5), std::pair(3.0, 1.5)}) {
             const QSize size = QSizeF(opening.width() * wider, opening.height() * higher).toSize();
             ResizeInside(size);
-            const double scale =
-                std::min(double(size.width()) / opening.width(), double(size.height()) / opening.height());
+            const double scale = std::min(1.0 * size.width() / opening.width(), 1.0 * size.height() / opening.height());
             for (auto [widget, place] : places.asKeyValueRange()) {
                 const QRect seen = widget->geometry();
                 const bool onTop = widget->parentWidget() == m_form->centralWidget();

@@ -75,15 +75,11 @@ class Session(AccessibleDesktop):
         self._read = 0
         self._letters = set()  # pressed beside Alt or Control since the last `heard`
         super().__init__(LANG="es_ES.UTF-8", LANGUAGE="es", QT_ACCESSIBILITY="1", GTK_MODULES="", NO_AT_BRIDGE="0",
-                         **{key: os.environ[key] for key in ("ASAN_OPTIONS",) if key in os.environ})
+                         **{key: os.environ[key] for key in ("ASAN_OPTIONS", "LOCPATH") if key in os.environ})
 
     def _set_up(self):
         self.transcript = self.home / "transcript"
         self.orca_debug = self.home / "orca-debug"
-        locales = self.home / "locale"
-        locales.mkdir()
-        subprocess.run(["localedef", "-i", "es_ES", "-f", "UTF-8", locales / "es_ES.UTF-8"], check=True)
-        self.env["LOCPATH"] = str(locales)
         super()._set_up()
         self._start_voice()
         self._set_reader()

@@ -3,6 +3,7 @@
 #include <QTest>
 
 #include <limits>
+#include <optional>
 
 using numeros::Desbordamiento;
 using numeros::Entero16;
@@ -40,8 +41,8 @@ private slots:
 
     void fits_or_gives_nothing()
     {
-        QCOMPARE(Entero16::SiCabe(32767.4)->Valor(), 32767);
-        QCOMPARE(Entero16::SiCabe(-32768.5)->Valor(), -32768);
+        QCOMPARE(Entero16::SiCabe(32767.4), std::optional<Entero16>(32767));
+        QCOMPARE(Entero16::SiCabe(-32768.5), std::optional<Entero16>(-32768));
         QVERIFY(!Entero16::SiCabe(32767.5));
         QVERIFY(!Entero16::SiCabe(-32769));
         QVERIFY(!Entero16::SiCabe(std::numeric_limits<double>::quiet_NaN()));

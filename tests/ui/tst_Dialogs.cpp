@@ -54,9 +54,9 @@ private slots:
     {
         QTest::addColumn<int>("key");
         QTest::addColumn<bool>("yes");
-        QTest::addRow("S") << int(Qt::Key_S) << true;
-        QTest::addRow("N") << int(Qt::Key_N) << false;
-        QTest::addRow("Escape") << int(Qt::Key_Escape) << false;
+        QTest::addRow("S") << static_cast<int>(Qt::Key_S) << true;
+        QTest::addRow("N") << static_cast<int>(Qt::Key_N) << false;
+        QTest::addRow("Escape") << static_cast<int>(Qt::Key_Escape) << false;
     }
     void a_question_is_answered()
     {

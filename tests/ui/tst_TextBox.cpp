@@ -284,7 +284,7 @@ private slots:
         Editable().SetFocus();
         Settle();
         const auto previous =
-            QAccessible::installUpdateHandler([](QAccessibleEvent* event) { told += int(event->type()); });
+            QAccessible::installUpdateHandler([](QAccessibleEvent* event) { told += static_cast<int>(event->type()); });
         Press(Qt::Key_Tab);
         QAccessible::installUpdateHandler(previous);
         QCOMPARE(Focus(), "TbDesco");
@@ -339,10 +339,13 @@ private slots:
     {
         static bool heard = false;
         const auto previous = QAccessible::installUpdateHandler([](QAccessibleEvent*) { heard = true; });
+        bool thrown = false;
         try {
             ui::Silently([] { throw 1; });
         } catch (int) {
+            thrown = true;
         }
+        QVERIFY(thrown);
         QAccessibleEvent event(&Editable().Widget(), QAccessible::NameChanged);
         QAccessible::updateAccessibility(&event);
         QAccessible::installUpdateHandler(previous);
