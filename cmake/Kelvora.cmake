@@ -79,7 +79,7 @@ function(kelvora_desktop_tests label)
                     LABELS "${label};desktop"
                     RESOURCE_GROUPS desktops:1
                     COST 60 # begun before what is short
-                    ENVIRONMENT "${environment};LOCPATH=${PROJECT_BINARY_DIR}/locales;KELVORA_QT=${Qt6_VERSION};PYTHONDONTWRITEBYTECODE=1")
+                    ENVIRONMENT "${environment};LOCPATH=${PROJECT_BINARY_DIR}/locales;KELVORA_QT=${Qt6_VERSION};VERSION=${PROJECT_VERSION};PYTHONDONTWRITEBYTECODE=1")
             endif()
         endforeach()
     endforeach()

@@ -11,11 +11,13 @@ import subprocess
 import sys
 import time
 
-SUPPORT = pathlib.Path(__file__).resolve().parent.parent / "support"
+HERE = pathlib.Path(__file__).resolve().parent
+SUPPORT = HERE.parent / "support"
 sys.path.insert(0, str(SUPPORT))
+import transcript
 from desktop import LIMIT, AccessibleDesktop, wait_for
 
-READY = "END Lector de pantalla activado."
+READY = "Lector de pantalla activado."
 
 # So many looks, 20 ms apart, at which there is nothing new, and the reader has finished. Looks, not time, which passes
 # while the machine stands still.
@@ -89,7 +91,7 @@ class Session(AccessibleDesktop):
         conf = self.home / "speechd"
         (conf / "modules").mkdir(parents=True)
         (conf / "clients").mkdir()
-        (conf / "speechd.conf").write_text(SPEECHD_CONF.format(voice=pathlib.Path(__file__).parent / "voice"))
+        (conf / "speechd.conf").write_text(SPEECHD_CONF.format(voice=HERE / "voice"))
         (conf / "clients" / "none.conf").write_text("")
         (conf / "modules" / "transcript.conf").write_text(str(self.transcript))
         self.transcript.touch()
@@ -101,19 +103,22 @@ class Session(AccessibleDesktop):
     def _set_reader(self):
         folder = self.home / ".local/share/orca"
         folder.mkdir(parents=True)
-        (folder / "orca-customizations.py").symlink_to(SUPPORT / "accessibility.py")
+        (folder / "orca-customizations.py").write_text(
+            f"import sys\nsys.path[:0] = {[str(SUPPORT), str(HERE)]}\nimport accessibility, interruptions\n")
+        self.env["KELVORA_TRANSCRIPT"] = str(self.transcript)
         (folder / "user-settings.conf").write_text(json.dumps({
             "general": ORCA_SETTINGS, "pronunciations": {}, "keybindings": {}, "profiles": {
                 "default": ORCA_SETTINGS | {"profile": ["Default", "default"], "pronunciations": {}, "keybindings": {}}}}))
 
     def start_reader(self):
+        """Starts the reader; what is heard of it."""
         def ready(before):
-            wait_for(lambda: READY in self._lines()[before:], "Orca", 15)
+            wait_for(lambda: any(text.ended for text in transcript.texts(self._lines()[before:]) if text == READY), "Orca", 15)
             time.sleep(0.5)  # until it is on the bus itself
             self._ask(PING)
 
         self._reader = self._start_surely("/usr/bin/orca", f"--debug-file={self.orca_debug}", ready=ready)
-        self.heard()
+        return self.heard()
 
     def _start_surely(self, *command, ready):
         """Starts a program that does not always come up at once: a few times, until `ready`, which is given the number of
@@ -135,36 +140,44 @@ class Session(AccessibleDesktop):
         """The lines that a braille display has shown, in order."""
         return re.findall(r"BRAILLE LINE:  '(.*)'$", self.orca_debug.read_text(errors="replace"), re.MULTILINE)
 
-    def presented(self, text):
-        """Whether the reader has sent `text`, with "|" between lines, to the voice, be it heard to its end or not."""
-        log = self.orca_debug.read_text(errors="replace")
-        return f"SPEECH OUTPUT: '{text}'" in re.sub(r"\r?\n +(?=\S)", "|", log)
-
     def wait_heard(self, text):
         """Waits until a text with `text` in it has been spoken to its end since the last `heard`."""
-        wait_for(lambda: any(line.startswith("END ") and text in line for line in self._lines()[self._read:]),
-                 f"the voice to say {text!r}")
+        wait_for(lambda: any(text in ended for ended in self._ended()), f"the voice to say {text!r}", said=self._ended)
 
     def wait_heard_match(self, pattern):
         """Waits until a text that begins with the compiled `pattern` has been spoken to its end since the last `heard`;
         the match."""
-        def match():
-            ended = (line[4:] for line in self._lines()[self._read:] if line.startswith("END "))
-            return next((found for found in map(pattern.match, ended) if found), None)
-        return wait_for(match, f"the voice to say {pattern.pattern!r}")
+        return wait_for(lambda: next((found for found in map(pattern.match, self._ended()) if found), None),
+                        f"the voice to say {pattern.pattern!r}", said=self._ended)
 
     def press(self, *keys):
-        super().press(*keys)
+        for key in keys:
+            transcript.write(self.transcript, "KEY", key)
+            super().press(key)
         self._letters.update(key[-1] for key in keys if re.search(r"\+\w$", key))
+
+    def press_together(self, *keys):
+        """Presses one key after the other and lets go of them all."""
+        transcript.write(self.transcript, "KEY", "+".join(keys))
+        arguments = [word for key in keys for word in ("keydown", key)] + [word for key in reversed(keys) for word in ("keyup", key)]
+        subprocess.run(["xdotool", *arguments], env=self.env, check=True)
+
+    def type(self, text):
+        transcript.write(self.transcript, "KEY", text)
+        super().type(text)
 
     def _lines(self):
         return self.transcript.read_text(errors="replace").splitlines()
 
-    def all_heard(self):
-        """All texts since the voice was there: those that it has begun, and those that it has spoken to their end."""
-        lines = self._lines()
-        return tuple([line.removeprefix(mark) for line in lines if line.startswith(mark)]
-                     for mark in ("START ", "END "))
+    def all_texts(self):
+        """All texts since the voice was there."""
+        return transcript.texts(self._lines())
+
+    def _new(self):
+        return transcript.texts(self._lines()[self._read:])
+
+    def _ended(self):
+        return [text for text in self._new() if text.ended]
 
     def language(self):
         """The language that the program tells of itself on the accessibility bus."""
@@ -176,20 +189,17 @@ class Session(AccessibleDesktop):
 
     def heard_so_far(self):
         """The texts that the voice has begun since the last `heard`, which will give them again."""
-        return [line[6:] for line in self._lines()[self._read:] if line.startswith("START ")]
+        return self._new()
 
     def await_heard(self, at_least):
-        """Waits until so many texts have been spoken to their end since the last `heard`, or the limit has passed."""
-        try:
-            wait_for(lambda: sum(line.startswith("END ") and line[4:].strip() not in self._letters
-                                 for line in self._lines()[self._read:]) >= at_least, "", 10)
-        except TimeoutError:
-            pass  # the caller sees what is missing
+        """Waits until so many texts have been spoken to their end since the last `heard`."""
+        wait_for(lambda: sum(text.strip() not in self._letters for text in self._ended()) >= at_least,
+                 f"{at_least} texts to be said", said=self._new)
 
     def heard(self, at_least=0):
         """The texts spoken since the last call; one that was cut off ends in "[cut]". Waits until there are `at_least`
-        so many, or the limit has passed, and then until the voice has been quiet for a while. Letters pressed beside Alt
-        or Control, which the reader may echo or not, are left out."""
+        so many, and then until the voice has been quiet for a while. Letters pressed beside Alt or Control, which the
+        reader may echo or not, are left out."""
         self.await_heard(at_least)
         last = self._lines()
         quiet = 0
@@ -198,20 +208,11 @@ class Session(AccessibleDesktop):
             now = self._lines()
             quiet = quiet + 1 if now == last else 0
             last = now
-        new = last[self._read:]
+        new = transcript.texts(last[self._read:])
         self._read = len(last)
-        ended = [line[4:] for line in new if line.startswith("END ")]
-        texts = []
-        for line in new:
-            if line.startswith("START "):
-                text = line[6:]
-                if text in ended:
-                    ended.remove(text)
-                    texts.append(text)
-                else:
-                    texts.append(text + " [cut]")
         letters, self._letters = self._letters, set()
-        return [text for text in texts if text.removesuffix(" [cut]").strip() not in letters]
+        return [text if text.ended and not text.cut else text + " [cut]" for text in new if text.strip() not in letters]
 
     def _speaking(self, lines):
-        return bool(lines) and lines[-1].startswith("START ") and time.time() - self.transcript.stat().st_mtime < 3
+        """Whether a text has been begun and nothing has come after it; for a while, since the voice may be gone."""
+        return bool(lines) and " START " in lines[-1] and time.time() - self.transcript.stat().st_mtime < 10

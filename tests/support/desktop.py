@@ -4,6 +4,7 @@ accessibility bus. As a program it runs the command that it is given on such a d
 """
 
 import contextlib
+import json
 import os
 import pathlib
 import shutil
@@ -13,18 +14,19 @@ import sys
 import tempfile
 import time
 
+SUPPORT = pathlib.Path(__file__).resolve().parent
 LIMIT = 30  # seconds to wait for anything at all; only a failure takes that long
 
 
-def wait_for(condition, what, limit=LIMIT):
-    """Waits until `condition` gives something true, which is returned."""
+def wait_for(condition, what, limit=LIMIT, said=lambda: ""):
+    """Waits until `condition` gives something true, which is returned. A failure tells what there is instead: `said`."""
     end = time.monotonic() + limit
     while time.monotonic() < end:
         value = condition()
         if value:
             return value
         time.sleep(0.02)
-    raise TimeoutError(f"waited {limit} s for {what}")
+    raise TimeoutError(f"waited {limit} s for {what}; {said()}")
 
 
 class Desktop:
@@ -120,29 +122,23 @@ class AccessibleDesktop(Desktop):
 
     def _set_up(self):
         super()._set_up()
+        self.start_bus()
+
+    def start_bus(self):
         self.bus = self.start("/usr/libexec/at-spi-bus-launcher", "--launch-immediately", "--a11y=1", "--screen-reader=1")
+
+    def things(self, title=None):
+        """What a window of the program holds, or all of its windows: role, name and text of each thing; nothing where there
+        is no such window yet."""
+        command = ["/usr/bin/python3", SUPPORT / "things.py"] + ([title] if title else [])
+        return [tuple(thing) for thing in json.loads(self.output(*command) or "[]")]  # one may go while it is asked
+
+    def wait_active(self, title):
+        wait_for(lambda: self.output("xdotool", "getactivewindow", "getwindowname").strip() == title, f"{title} in front")
 
     def box_texts(self, title):
         """The texts of the boxes of a window of the program, by their names, or nothing where there is no such window yet."""
-        os.environ |= self.env  # for what asks the bus here
-        from accessibility import Atspi
-        texts = {}
-
-        def collect(thing):
-            if "Text" in thing.get_interfaces():
-                texts[thing.get_name()] = Atspi.Text.get_text(thing, 0, -1)
-            for i in range(thing.get_child_count()):
-                collect(thing.get_child_at_index(i))
-
-        desktop = Atspi.get_desktop(0)
-        desktop.clear_cache()
-        for i in range(desktop.get_child_count()):
-            program = desktop.get_child_at_index(i)
-            if program and program.get_name() == "Kelvora":
-                for j in range(program.get_child_count()):
-                    if program.get_child_at_index(j).get_name() == title:
-                        collect(program.get_child_at_index(j))
-        return texts
+        return {name: text for role, name, text in self.things(title) if role == "text"}
 
 
 if __name__ == "__main__":

@@ -1,0 +1,23 @@
+"""Prints, in JSON, what the windows of the program hold for whoever asks the accessibility bus: of each thing its role, name
+and text. With an argument, of the window of that title.
+
+A program of its own, since what is on the bus and does not answer, as a test that waits, keeps others from starting.
+"""
+
+import json
+import sys
+
+from accessibility import Atspi
+
+
+def collect(thing):
+    text = Atspi.Text.get_text(thing, 0, -1) if "Text" in thing.get_interfaces() else ""
+    return [(thing.get_role_name(), thing.get_name(), text)] + [
+        entry for i in range(thing.get_child_count()) for entry in collect(thing.get_child_at_index(i))]
+
+
+desktop = Atspi.get_desktop(0)
+programs = [desktop.get_child_at_index(i) for i in range(desktop.get_child_count())]
+windows = [program.get_child_at_index(i) for program in programs if program and program.get_name() == "Kelvora"
+           for i in range(program.get_child_count())]
+print(json.dumps([entry for window in windows if sys.argv[1:] in ([], [window.get_name()]) for entry in collect(window)]))
