@@ -11,6 +11,7 @@ namespace {
 
 std::mt19937 generator; // NOLINT(cert-msc51-cpp): seeded by Randomize, whenever a screen loads
 std::optional<std::uint32_t> fixedSeed;
+std::optional<int> fixedTimeOfDay;
 
 } // namespace
 
@@ -21,7 +22,7 @@ std::uint32_t TimerSeed()
 
 std::uint32_t TimeOfDaySeed()
 {
-    const QTime now = QTime::currentTime();
+    const QTime now = fixedTimeOfDay ? QTime(0, 0).addSecs(*fixedTimeOfDay) : QTime::currentTime();
     return static_cast<std::uint32_t>((now.hour() + 1) * (now.minute() + 1) * (now.second() + 1));
 }
 
@@ -40,6 +41,11 @@ double Rnd()
 int Draw(int count, int from)
 {
     return static_cast<int>(count * Rnd()) + from;
+}
+
+void FixTimeOfDay(std::optional<int> seconds)
+{
+    fixedTimeOfDay = seconds;
 }
 
 void FixSeed(std::optional<std::uint32_t> seed)

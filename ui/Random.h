@@ -21,6 +21,9 @@ double Rnd();
 // A whole number from `from` to `from` + `count` - 1: Int(count * Rnd) + from.
 int Draw(int count, int from);
 
+// For tests: the time of day, in seconds from 0 to 86399, that the clock shows from now on, or the real one.
+void FixTimeOfDay(std::optional<int> seconds);
+
 // For tests: the seed that every later Randomize uses, or none.
 void FixSeed(std::optional<std::uint32_t> seed);
 

@@ -107,30 +107,6 @@ private slots:
         }
     }
 
-    void fonts_are_those_given()
-    {
-        QCOMPARE(Given(0).font().families().front(), "Courier New");
-        QCOMPARE(Working(0).font().families().front(), "Arial");
-        QCOMPARE(Answer(0).font().families().front(), "Courier New");
-    }
-
-    void tab_reads_fraction_by_fraction()
-    {
-        QStringList order{"TBInstruc"};
-        for (const char* row : {"TBIni", "TBMedi", "TBFin"}) {
-            for (const int box : {0, 2, 1, 3}) {
-                order += QString("%1(%2)").arg(row).arg(box);
-            }
-        }
-        order += {"Command1", "Command2(0)", "Command2(1)", "Command2(2)", "TBMensajes", "TBResultados"};
-        QCOMPARE(TabRound(), order);
-        VerifyNames();
-        QCOMPARE(Name("TBIni(0)"), "Numerador de la primera fracción inicial");
-        QCOMPARE(Name("TBIni(1)"), "Numerador de la segunda fracción inicial");
-        QCOMPARE(Name("TBFin(2)"), "Denominador de la primera fracción final");
-        QCOMPARE(Name("TBFin(3)"), "Denominador de la segunda fracción final");
-    }
-
     void only_working_and_answer_accept_typing()
     {
         for (int i = 0; i < 4; ++i) {
@@ -138,8 +114,6 @@ private slots:
         }
         QVERIFY(Box("TBMensajes").isReadOnly() && Box("TBResultados").isReadOnly());
     }
-
-    void buttons_have_their_colours() { VerifyButtonColours(); }
 
     void draws_different_denominators()
     {

@@ -102,39 +102,6 @@ private slots:
         QCOMPARE(Text("TbFactores") + Text("Text1"), "");
         QCOMPARE(Text("tbResultados"), "Ejercicios:  0; Errores:  0");
         QCOMPARE(Child<QLabel>(*m_form, "LbFactores").text(), "Factores primos");
-        const QStringList captions{
-            "&Opciones",      "&Valores", "&Hasta 10", "&Hasta 20", "&Hasta 100", "&Hasta 1000", "&Introducir valor...",
-            "&Salir (Alt F4)"};
-        const QStringList names{"MnuOpc",          "MnuOpcVal",       "MnuOpcValLis(0)", "MnuOpcValLis(1)",
-                                "MnuOpcValLis(2)", "MnuOpcValLis(3)", "MnuOpcInt",       "MnuOpcsal"};
-        for (qsizetype i = 0; i < names.size(); ++i) {
-            QCOMPARE(Entry(names[i]).text(), captions[i]);
-        }
-        QVERIFY(Entry("MnuOpcValLis(2)").isChecked());
-        QCOMPARE(Entry("MnuOpcInt").shortcut().toString(), "F2");
-    }
-
-    void controls_stand_at_the_given_places()
-    {
-        QVERIFY(StandsAt("TbInstruc", 966, 300, 6000, 500));
-        QVERIFY(StandsAt("TbValor", 933, 1300, 2125, 500));
-        QVERIFY(StandsAt("TbDesco", 933, 2100, 2125, 4000));
-        QVERIFY(StandsAt("LbFactores", 933, 6600, 2125, 500));
-        QVERIFY(StandsAt("TbFactores", 933, 7100, 2125, 500));
-        QVERIFY(StandsAt("Command1", 4750, 1100, 1500, 400));
-        QVERIFY(StandsAt("Text1", 4000, 1900, 3000, 500));
-        QVERIFY(StandsAt("Command2(0)", 4750, 2700, 1300, 500));
-        QVERIFY(StandsAt("Command2(1)", 4000, 3500, 1300, 500));
-        QVERIFY(StandsAt("Command2(2)", 5500, 3500, 1500, 500));
-        QVERIFY(StandsAt("tbResultados", 4000, 7150, 3000, 480));
-        VerifyButtonColours();
-    }
-
-    void tab_goes_round_in_the_given_order()
-    {
-        QCOMPARE(TabRound(), QStringList({"TbInstruc", "TbValor", "TbDesco", "TbFactores", "Command1", "Text1",
-                                          "Command2(0)", "Command2(1)", "Command2(2)", "tbResultados"}));
-        VerifyNames();
     }
 
     void the_bars_stand_in_a_line()
@@ -182,14 +149,14 @@ private slots:
     void the_first_value_is_one_of_a_hundred_by_the_timer()
     {
         VerifySeedOfTheTimer([] { return new ejercicios::FormFactores; }, [this] { return Text("TbValor"); });
-        int largest = 0;
         for (unsigned seed = 0; seed < 40; ++seed) {
             CloseScreen();
             ui::FixSeed(seed);
+            ui::Randomize(0);
+            const int drawn = static_cast<int>(100 * ui::Rnd()) + 1; // of 1 to 100
             OpenScreen(new ejercicios::FormFactores);
-            largest = std::max(largest, Text("TbValor").toInt());
+            QCOMPARE(Text("TbValor"), QString::number(drawn));
         }
-        QVERIFY(largest > 20);
     }
 
     void an_own_value_is_taken_up_to_a_thousand_data()

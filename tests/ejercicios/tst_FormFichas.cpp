@@ -145,30 +145,6 @@ private slots:
         QVERIFY(m_form->menuBar()->actions().isEmpty());
     }
 
-    void controls_stand_at_the_given_places()
-    {
-        QVERIFY(StandsAt("Text1", 250, 200, 4500, 800));
-        QVERIFY(StandsAt("Picture1", 5100, 1200, 3800, 4800));
-        QVERIFY(StandsAt("Command1", 1500, 3000, 2000, 350));
-        QVERIFY(StandsAt("TBResultado", 500, 3500, 4000, 400));
-        QVERIFY(StandsAt("Command2(0)", 1750, 4100, 1500, 350));
-        QVERIFY(StandsAt("Command2(1)", 250, 4100, 1500, 350));
-        QVERIFY(StandsAt("Command2(2)", 3250, 4100, 1500, 350));
-        QCOMPARE(Box("TBResultado").palette().color(QPalette::Base),
-                 QApplication::palette().color(QPalette::Highlight));
-        QVERIFY(Box("TBResultado").isReadOnly());
-    }
-
-    void buttons_have_their_colours() { VerifyButtonColours(); }
-
-    void type_is_in_the_given_families()
-    {
-        QCOMPARE(Box("TBResultado").font().families().front(), "Arial Narrow");
-        for (const char* name : {"Text1", "TBFrac(0)", "Command1", "CBFicha(0)", "Label1", "Frame1(0)"}) {
-            QCOMPARE(Child<QWidget>(*m_form, name).font().families().front(), "Comic Sans MS");
-        }
-    }
-
     void frames_have_caption_colour_and_their_two_boxes()
     {
         const QStringList captions{"ROJO", "AMARILLO", "VERDE"};
@@ -200,7 +176,6 @@ private slots:
             order += QString("CBFicha(%1)").arg(i);
         }
         QCOMPARE(TabRound(), order);
-        VerifyNames();
     }
 
     // The board

@@ -209,61 +209,7 @@ private slots:
         QCOMPARE(Text("Text3"), "");
         QCOMPARE(Text("tbResultados"), "Ejercicios:  0; Errores:  0");
         QVERIFY(Entry("MnuOpcDifLis(0)").isChecked() && Entry("MnuOpcTipLis(0)").isChecked());
-        for (int i = 0; i < 8; ++i) {
-            QCOMPARE(Entry(QString("MnuOpcDifLis(%1)").arg(i)).text(),
-                     QString::number(i / 2 + 1) + (i % 2 == 0 ? "A" : "B"));
-        }
-        QCOMPARE(Entry("MnuOpcDif").text(), "&Dificultad");
-        QCOMPARE(Entry("MnuOpcTip").text(), "&Tipos de serie");
-        QCOMPARE(Entry("MnuOpcTipLis(0)").text(), "&Seleccionado");
-        QCOMPARE(Entry("MnuOpcTipLis(1)").text(), "Seleccionado e &inferiores");
-        QCOMPARE(Entry("MnuOpcSal").text(), "&Salir Alt - F4");
     }
-
-    void controls_stand_at_the_given_places()
-    {
-        QCOMPARE(m_form->centralWidget()->width(), 800); // 12000 twips
-        QVERIFY(StandsAt("TbInstruc", 3500, 200, 5000, 465));
-        for (int i = 0; i < 8; ++i) {
-            const double left = 600 + i * (1000 + 4000.0 / 9);
-            QVERIFY(StandsAt(QString("Text1(%1)").arg(i), left, 1000, 1000, 600));
-            QVERIFY(StandsAt(QString("Line1(%1)").arg(i), left, 1635, 1000, 30));
-            QVERIFY(StandsAt(QString("Text2(%1)").arg(i), left, 1700, 1000, 600));
-        }
-        QVERIFY(StandsAt("Command1", 5250, 2800, 1500, 495));
-        QVERIFY(StandsAt("Text3", 4500, 3450, 3000, 500));
-        QVERIFY(StandsAt("Command2(0)", 5250, 4100, 1500, 500));
-        QVERIFY(StandsAt("Command2(1)", 3600, 4100, 1500, 500));
-        QVERIFY(StandsAt("Command2(2)", 6900, 4100, 1500, 500));
-        QVERIFY(StandsAt("tbResultados", 0, 5300, 3000, 495));
-        QCOMPARE(Box("Text3").palette().color(QPalette::Base), QApplication::palette().color(QPalette::Highlight));
-    }
-
-    void type_is_as_given()
-    {
-        const QFont instruction = Box("TbInstruc").font();
-        QCOMPARE(instruction.families().front(), "Verdana");
-        QCOMPARE(instruction.pixelSize(), 19); // 14.25 points
-        QVERIFY(instruction.bold());
-        QVERIFY(Numerator(0).font().bold() && Denominator(0).font().bold());
-        QCOMPARE(Numerator(0).font().families().front(), "Arial");
-        QVERIFY(!Box("Text3").font().bold());
-    }
-
-    void tab_reads_term_by_term_and_not_what_is_hidden()
-    {
-        QStringList order{"TbInstruc"};
-        for (int i = 0; i <= 4; ++i) {
-            order += {QString("Text1(%1)").arg(i), QString("Text2(%1)").arg(i)};
-        }
-        order += {"Command1", "Text3", "Command2(0)", "Command2(1)", "Command2(2)", "tbResultados"};
-        QCOMPARE(TabRound(), order);
-        VerifyNames();
-        QCOMPARE(Name("Text1(2)"), "Numerador del término 3");
-        QCOMPARE(Name("Text2(7)"), "Denominador del término 8");
-    }
-
-    void buttons_have_their_colours() { VerifyButtonColours(); }
 
     void the_seed_is_the_time_of_day()
     {
@@ -373,6 +319,19 @@ private slots:
         Continue();
         QCOMPARE(Blank(), 4);
         QVERIFY(!Denominator(5).isVisible() && !Member<QWidget>("Line1", 5).isVisible());
+    }
+
+    void the_message_stays_with_a_level_a_type_and_goes_with_the_solution()
+    {
+        Verdict("", "");
+        for (const char* entry : {"MnuOpcDifLis(0)", "MnuOpcTipLis(1)", "MnuOpcTipLis(0)"}) {
+            Choose(entry);
+            QCOMPARE(Text("Text3"), "Respuesta incorrecta");
+        }
+        Button("Command2(1)").click();
+        QCOMPARE(Text("Text3"), "Respuesta incorrecta");
+        Button("Command2(2)").click();
+        QCOMPARE(Text("Text3"), "");
     }
 
     void a_type_brings_a_new_series_at_once()

@@ -2,11 +2,12 @@
 what every lesson does.
 """
 
+import json
 import os
 import re
 import unittest
 
-from session import OLD, Session
+from session import OLD, SUPPORT, Session
 
 PROGRAM = os.environ["KELVORA"]
 
@@ -149,9 +150,9 @@ def echo(character):
 
 SUBMENU_HELP = utterances("submenu with dots", "Combinaciones de teclas")[0]
 CREDITS = utterances("submenu with dots", "Acerca de")[0]
-MENU = ["Representación gráfica", "Expresa con fracciones", "Fracción de una cantidad",
-        "Descomposición en factores primos", "Ordenar fracciones", "Conversión al mismo denominador", "Suma de fracciones",
-        "Diferencia de fracciones", "Producto de fracciones", "Cociente de fracciones", "Completa la serie", "Salir"]
+# What is given of all windows, the menu first.
+GIVEN = json.loads((SUPPORT / "given.json").read_text())
+MENU = [control["text"].replace("&", "") for control in GIVEN[0]["controls"]]
 ENGLISH = r"\b(button|push|text|frame|box|window|dialog|menu bar|read only|checked|selected|label|blank|ok|cancel|yes)\b"
 MARKS = r"[&<>{}]"  # of captions and of the toolkit's own texts
 

@@ -3,10 +3,19 @@
 import os
 import unittest
 
+import test_ejercicios
+import test_operaciones
 from pupil import *
 
 CREDITS_TEXT = ("Kelvora: ejercicios de fracciones.|Autores: el equipo de Kelvora.|"
                 f"Contacto: el repositorio del proyecto, en sus incidencias.|Versión {os.environ['VERSION']}.")
+
+
+class Screens(unittest.TestCase):
+    def test_each_has_a_lesson(self):
+        lessons = {lesson.title for module in (test_ejercicios, test_operaciones) for lesson in vars(module).values()
+                   if isinstance(lesson, type) and hasattr(lesson, "test_a_lesson")}
+        self.assertEqual(lessons, {window["title"] for window in GIVEN[1:]})
 
 
 class Menu(Lesson):

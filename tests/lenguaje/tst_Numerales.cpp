@@ -146,9 +146,11 @@ private slots:
                  {1e12, "un billón"},
                  {5e12, "cinco billones "},
                  {1e15, "mil billones "},
+                 {2e15, "dosmil "},
                  {1e18, "un trillón "},
                  {7e18, "siete trillones"},
                  {1e21, "mil trillones "},
+                 {2e21, "dosmil "},
                  {2e21, "dosmil "}});
     }
     void reads_cardinals()

@@ -98,6 +98,14 @@ private slots:
         QCOMPARE(Verdict("3", "38"), QStringList("Resultado correcto "));
     }
 
+    void a_numerator_that_rounds_to_one_is_plural_all_the_same()
+    {
+        Answer("1.2", "2");
+        m_ear->Take();
+        Press(Qt::Key_F2);
+        QCOMPARE(m_ear->TakeSaid(), QStringList("un medios"));
+    }
+
     void a_negative_answer_is_read_as_nothing()
     {
         SetOperands({3, 4, 1, 2});

@@ -280,7 +280,7 @@ class Alone(unittest.TestCase):
     def test_words_behind_its_name_change_nothing(self):
         program = self.begin(PROGRAM, "suma", "--nada", "/dev/null")
         self.assertEqual({name for role, name, _ in self.desktop.things("KELVORA") if "button" in role}, set(MENU))
-        self.desktop.press("alt+F4")
+        self.desktop.press("Tab", "alt+F4")  # the window manager may not see a desktop's very first key
         self.assertEqual(program.wait(LIMIT), 0)
 
 

@@ -26,6 +26,10 @@ private slots:
 
     void the_time_of_day_is_a_seed()
     {
+        const auto restore = qScopeGuard([] { ui::FixTimeOfDay({}); });
+        ui::FixTimeOfDay(3600 * 7 + 60 * 5 + 3);
+        QCOMPARE(ui::TimeOfDaySeed(), 8U * 6 * 4);
+        ui::FixTimeOfDay({}); // and then the clock's
         const auto expected = [] {
             const QTime now = QTime::currentTime();
             return static_cast<std::uint32_t>((now.hour() + 1) * (now.minute() + 1) * (now.second() + 1));

@@ -421,7 +421,40 @@ private slots:
         QCOMPARE(edit.cursorPosition(), 1);
         Press(Qt::Key_End);
         QCOMPARE(edit.cursorPosition(), 3);
+
+        // The caret is painted, and so is the edge: dark, all round.
+        const auto dark = [&edit](int x, int y) { return edit.grab().toImage().pixelColor(x, y).lightness() < 128; };
+        QVERIFY(dark(edit.inputMethodQuery(Qt::ImCursorRectangle).toRect().center().x(), edit.height() / 2));
+        const auto edged = [&] {
+            return dark(0, edit.height() / 2) && dark(edit.width() - 1, edit.height() / 2) &&
+                   dark(edit.width() / 2, 0) && dark(edit.width() / 2, edit.height() - 1);
+        };
+        QVERIFY(edged());
+        Editable().SetFocus();
+        QVERIFY(!dark(edit.inputMethodQuery(Qt::ImCursorRectangle).toRect().center().x(), edit.height() / 2));
+        const auto grey = [&edit](int x, int y) {
+            return edit.grab().toImage().pixelColor(x, y) != edit.palette().color(QPalette::Base);
+        };
+        QVERIFY(grey(0, edit.height() / 2) && grey(edit.width() - 1, edit.height() / 2)); // thinner, but there
     }
+
+#if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
+    void the_box_itself_is_what_the_message_comes_from()
+    {
+        static QStringList sources;
+        sources.clear();
+        const auto previous = QAccessible::installUpdateHandler([](QAccessibleEvent* event) {
+            if (event->type() == QAccessible::Announcement) {
+                sources += event->object()->objectName();
+            }
+        });
+        m_form->The<ui::TextBox>("TbMensajes").Text("uno");
+        QCoreApplication::postEvent(qApp, new QEvent(QEvent::User));
+        Settle();
+        QAccessible::installUpdateHandler(previous);
+        QCOMPARE(sources, QStringList("TbMensajes"));
+    }
+#endif
 
     void a_long_message_is_drawn_on_several_lines_while_unfocused()
     {
