@@ -1,5 +1,6 @@
 // Works the screens as fast as the event loop goes, to see what an opening, an exercise or a reading costs.
 //
+//   screens names                  the names of all exercise screens
 //   screens open                   processor time of opening each window
 //   screens exercises NAME N       N exercises on a screen; nothing is printed, for a profiler
 //   screens readings N             N readings of the sum's operation, likewise
@@ -93,7 +94,7 @@ double Median(std::vector<double> values)
 void MeasureOpenings()
 {
     constexpr int times = 20;
-    std::printf("%-22s%12s%12s\n", "opening, ms of CPU", "first", "median");
+    std::printf("%-24s%12s%12s\n", "ms of CPU, bare figures", "first", "median");
     for (const support::Window& window : support::windows) {
         std::vector<double> spent;
         for (int i = 0; i < times; ++i) {
@@ -102,7 +103,7 @@ void MeasureOpenings()
             spent.push_back(Cpu() - before);
             Close(form);
         }
-        std::printf("%-22s%12.2f%12.2f\n", window.name, spent.front(), Median(spent));
+        std::printf("%-24s%12.2f%12.2f\n", window.name, spent.front(), Median(spent));
     }
 }
 
@@ -152,7 +153,13 @@ int main(int argc, char** argv)
     ui::FixSeed(1);
     const QStringList arguments = QApplication::arguments();
     const QString what = arguments.value(1);
-    if (what == "open") {
+    if (what == "names") {
+        for (const support::Window& window : support::windows) {
+            if (window.name != std::string_view("Form1")) {
+                std::puts(window.name);
+            }
+        }
+    } else if (what == "open") {
         MeasureOpenings();
     } else if (what == "exercises") {
         const ui::Form* form = Open(Named(arguments.value(2).toStdString()));
@@ -173,7 +180,7 @@ int main(int argc, char** argv)
             }
         }
     } else {
-        qFatal("open, exercises, readings or soak");
+        qFatal("names, open, exercises, readings or soak");
     }
     return EXIT_SUCCESS;
 }

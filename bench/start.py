@@ -71,15 +71,16 @@ def open_modeless(desktop):
         time.sleep(0.5)
 
 
-def table(title, unit, rows, bare):
-    print(f"\n{title:34}{unit:>8}{'ratio to bare':>16}")
+def table(title, unit, rows):
+    """Each program's median, and the ratios of ours to it, run by run."""
+    print(f"\n{title:34}{unit:>8}{'Kelvora to it: min':>22}{'median':>8}{'max':>8}")
     for name, values in rows.items():
-        value = statistics.median(values)
-        print(f"{name:34}{value:8.1f}{value / statistics.median(rows[bare]):16.2f}")
+        ratios = [own / value for own, value in zip(rows["Kelvora"], values)]
+        print(f"{name:34}{statistics.median(values):8.1f}{min(ratios):22.2f}{statistics.median(ratios):8.2f}{max(ratios):8.2f}")
 
 
 def main(program, bare):
-    commands = {"bare window": [bare], "Kelvora": [program], "kbruch": ["kbruch"], "jfractionlab": ["JFractionLab"]}
+    commands = {"Kelvora": [program], "bare window": [bare], "kbruch": ["kbruch"], "jfractionlab": ["JFractionLab"]}
     for bus in (True, False):
         desktop = Desktop(LANG="C.UTF-8", NO_AT_BRIDGE="0" if bus else "1")
         events = Display(desktop.env["DISPLAY"])
@@ -102,8 +103,8 @@ def main(program, bare):
                     desktop.end(child)
                     time.sleep(0.1)
             where = "with an accessibility bus" if bus else "without an accessibility bus"
-            table(f"Start, {where}", "ms", times, "bare window")
-            table(f"Memory, {where}", "MiB", sizes, "bare window")
+            table(f"Start, {where}", "ms", times)
+            table(f"Memory, {where}", "MiB", sizes)
         finally:
             events.close()
             desktop.close()

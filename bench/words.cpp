@@ -46,7 +46,7 @@ void Icu(benchmark::State& state)
     std::size_t i = 0;
     while (state.KeepRunning()) {
         icu::UnicodeString words;
-        format.format(numbers[i++ % count], words);
+        format.format(static_cast<std::int32_t>(numbers[i++ % count]), words);
         benchmark::DoNotOptimize(words);
     }
 }

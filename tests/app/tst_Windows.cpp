@@ -6,6 +6,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QMenuBar>
+#include <QPainter>
 #include <QPlainTextEdit>
 #include <QStyle>
 
@@ -57,17 +58,74 @@ QRgb Background(const QImage& image)
     return most;
 }
 
-// The contrast of the text, which fills the image, to its background: that of the pixels that differ most.
-double TextContrast(const QImage& image)
+// The colour of the text that fills the image: that of the pixels that differ most from its background.
+QColor Type(const QImage& image)
 {
     const QColor background = Background(image);
-    double contrast = 1;
+    QColor type = background;
     for (int y = 0; y < image.height(); ++y) {
         for (int x = 0; x < image.width(); ++x) {
-            contrast = std::max(contrast, ui::Contrast(image.pixelColor(x, y), background));
+            const QColor pixel = image.pixelColor(x, y);
+            type = ui::Contrast(pixel, background) > ui::Contrast(type, background) ? pixel : type;
         }
     }
-    return contrast;
+    return type;
+}
+
+double TextContrast(const QImage& image)
+{
+    return ui::Contrast(Type(image), Background(image));
+}
+
+// What is drawn on a ground of one colour: where it lies, and how many pixels it takes.
+struct Ink
+{
+    QRect bounds;
+    int pixels = 0;
+
+    // As good as the same, as far as two ways of drawing a text can be told apart.
+    bool IsLike(const Ink& other) const
+    {
+        const auto near = [](int a, int b) { return std::abs(a - b) <= 2; };
+        constexpr int few = 16;
+        return near(bounds.width(), other.bounds.width()) && near(bounds.height(), other.bounds.height()) &&
+               std::abs(pixels - other.pixels) <= std::max(other.pixels / 10, few);
+    }
+};
+
+Ink InkOf(const QImage& image)
+{
+    constexpr double visible = 1.5;
+    const QColor background = Background(image);
+    QHash<QRgb, bool> known;
+    Ink ink;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            const QRgb pixel = image.pixel(x, y);
+            auto isInk = known.find(pixel);
+            if (isInk == known.end()) {
+                isInk = known.insert(pixel, ui::Contrast(QColor(pixel), background) >= visible);
+            }
+            if (*isInk) {
+                ink.bounds |= QRect(x, y, 1, 1);
+                ++ink.pixels;
+            }
+        }
+    }
+    return ink;
+}
+
+// A text as it looks where there is no end to the room below it.
+Ink InkOf(const QString& text, const QFont& font, int width, int flags, const QColor& ground, const QColor& type)
+{
+    QImage image(std::max(width, 1), 40 * font.pixelSize(), QImage::Format_RGB32);
+    image.fill(ground);
+    QPainter painter(&image);
+    painter.setFont(font);
+    painter.setPen(type);
+    painter.drawText(image.rect(), flags, text);
+    painter.end();
+    return InkOf(image);
 }
 
 // Without the edges.
@@ -189,6 +247,35 @@ private:
                                     .arg(room.width())
                                     .arg(room.height())));
         }
+    }
+
+    // Whether a text looks in the window as it looks with room below, in some size of its type, and away from the
+    // edges.
+    void VerifyWhole(QWidget& widget, const QString& text, int flags) const
+    {
+        const QRect area = widget.mask().isEmpty() ? widget.rect() : widget.mask().boundingRect();
+        const int edge = qobject_cast<QLabel*>(&widget) == nullptr ? 1 : 0;
+        const QRect inside = area.adjusted(edge, edge, -edge, -edge);
+        const QPoint place = widget.mapTo(m_form, inside.topLeft());
+        const QImage image = m_form->grab(QRect(place, inside.size())).toImage();
+        const Ink seen = InkOf(image);
+        QVERIFY2(image.rect().adjusted(edge, edge, -edge, -edge).contains(seen.bounds),
+                 qPrintable(widget.objectName()));
+        const QColor ground = Background(image);
+        const QColor type = Type(image);
+        QFont font = widget.font();
+        for (; font.pixelSize() >= 8; font.setPixelSize(font.pixelSize() - 1)) {
+            for (int margin = 0; margin <= 8; ++margin) {
+                if (seen.IsLike(InkOf(text, font, inside.width() - 2 * margin, flags, ground, type))) {
+                    return;
+                }
+            }
+        }
+        QFAIL(qPrintable(QString("%1, \"%2\": %3 x %4, %5 pixels")
+                             .arg(widget.objectName(), text)
+                             .arg(seen.bounds.width())
+                             .arg(seen.bounds.height())
+                             .arg(seen.pixels)));
     }
 
 private slots:
@@ -366,6 +453,38 @@ private slots:
         }
         ResizeInside(opening.boundedTo(QSize(683, 330))); // half of 1366 x 768, less title and menu bar
         VerifyNothingClipped();
+    }
+
+    // Looked at in the pixels of the window, by no measure of the program's own.
+    void every_text_is_whole_data() { EachWindow(); }
+    void every_text_is_whole()
+    {
+        OpenIt();
+        const QSize opening = m_form->centralWidget()->size();
+        for (const double scale : {1.0, 1.5, 2.0}) {
+            ResizeInside(opening * scale);
+            for (QWidget* widget : Placed()) {
+                QString text = widget->property("text").toString();
+                int flags = Qt::AlignHCenter | Qt::TextWordWrap | Qt::TextShowMnemonic;
+                if (const auto* lines = qobject_cast<QPlainTextEdit*>(widget)) {
+                    text = lines->toPlainText();
+                    flags = Qt::AlignLeft | Qt::TextWordWrap;
+                } else if (const auto* box = qobject_cast<QLineEdit*>(widget)) {
+                    flags = Qt::AlignHCenter | Qt::TextWordWrap;
+                    text = box->isReadOnly() ? text : QString(); // of what is typed the caret leads to the rest
+                }
+                if (!widget->isVisible() || text.trimmed().isEmpty()) {
+                    continue;
+                }
+                QWidget* elsewhere = Stops().front() == widget ? Stops().back() : Stops().front();
+                elsewhere->setFocus(); // no caret, and the whole of a long text
+                VerifyWhole(*widget, text, flags);
+                if (QTest::currentTestFailed()) {
+                    qInfo("at %g", scale);
+                    return;
+                }
+            }
+        }
     }
 
     void opens_no_larger_than_the_screen_data() { EachWindow(); }
