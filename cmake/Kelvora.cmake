@@ -34,7 +34,7 @@ endif()
 # A test that needs no display, with what is to be set in its environment beyond the usual.
 function(kelvora_inprocess test)
     set_tests_properties(${test} PROPERTIES
-        TIMEOUT 300
+        TIMEOUT 1200
         LABELS "inprocess;quick"
         RESOURCE_GROUPS processors:1
         ENVIRONMENT "${KELVORA_TEST_SCREEN};QT_FONT_DPI=96;LC_ALL=C.UTF-8;${ARGN}")

@@ -1,11 +1,9 @@
 #include "Form1.h"
+#include "Given.h"
 #include "Support.h"
 
 #include <QAction>
 #include <QFile>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QRegularExpression>
@@ -121,11 +119,9 @@ private slots:
     // By the sheet of what is given, which has them all.
     void opens_each_screen_modal_or_beside_itself_data()
     {
-        QFile sheet(GIVEN);
-        QVERIFY(sheet.open(QIODevice::ReadOnly));
         QTest::addColumn<QString>("button");
         QTest::addColumn<bool>("modal");
-        for (const QJsonValue& window : QJsonDocument::fromJson(sheet.readAll()).array()) {
+        for (const QJsonObject& window : Given()) {
             if (window["name"] != "Form1") {
                 QTest::addRow("%s", qPrintable(window["name"].toString()))
                     << window["opened by"].toString() << window["modal"].toBool();

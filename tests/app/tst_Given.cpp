@@ -1,14 +1,11 @@
 // The sheet of what is given, tests/support/given.json: of all twelve windows the names, captions, places, tab order,
 // type, colours, menus and accessible names. Whatever a window has beyond the sheet is a fault, too.
+#include "Given.h"
 #include "Screen.h"
 #include "Windows.h"
 
-#include <QFile>
 #include <QFrame>
 #include <QGroupBox>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
@@ -17,15 +14,6 @@
 using namespace support;
 
 namespace {
-
-QJsonArray Given()
-{
-    QFile file(GIVEN);
-    if (!file.open(QIODevice::ReadOnly)) {
-        qFatal("no %s", GIVEN);
-    }
-    return QJsonDocument::fromJson(file.readAll()).array();
-}
 
 QString KindOf(const QWidget& widget)
 {
@@ -152,8 +140,8 @@ private slots:
     void initTestCase_data()
     {
         QTest::addColumn<QJsonObject>("given");
-        for (const QJsonValue& window : Given()) {
-            QTest::addRow("%s", qPrintable(window["name"].toString())) << window.toObject();
+        for (const QJsonObject& window : Given()) {
+            QTest::addRow("%s", qPrintable(window["name"].toString())) << window;
         }
     }
 
@@ -181,9 +169,9 @@ private slots:
 
     void each_control_is_as_given()
     {
-        for (const QJsonValue& given : m_given["controls"].toArray()) {
+        for (const QJsonObject& given : Objects(m_given["controls"].toArray())) {
             const QString name = given["name"].toString();
-            VerifyControl(Child<QWidget>(*m_form, name), given.toObject());
+            VerifyControl(Child<QWidget>(*m_form, name), given);
             if (QTest::currentTestFailed()) {
                 qInfo("at %s", qPrintable(name));
                 return;
@@ -194,7 +182,7 @@ private slots:
     void there_is_nothing_else()
     {
         QStringList given;
-        for (const QJsonValue& control : m_given["controls"].toArray()) {
+        for (const QJsonObject& control : Objects(m_given["controls"].toArray())) {
             given += control["name"].toString();
         }
         // Parts and tokens are made as an exercise needs them.
@@ -210,7 +198,7 @@ private slots:
     void tab_goes_in_the_given_order()
     {
         QMap<int, QString> order;
-        for (const QJsonValue& control : m_given["controls"].toArray()) {
+        for (const QJsonObject& control : Objects(m_given["controls"].toArray())) {
             const QString name = control["name"].toString();
             const QWidget& widget = Child<QWidget>(*m_form, name);
             if (!control["tab"].isUndefined() && KindOf(widget) != "label" && widget.isVisible()) {
@@ -226,11 +214,11 @@ private slots:
     void the_menus_are_as_given()
     {
         const QList<std::pair<int, QAction*>> seen = Entries(m_form->menuBar()->actions());
-        const QJsonArray given = m_given["menus"].toArray();
+        const QList<QJsonObject> given = Objects(m_given["menus"].toArray());
         QCOMPARE(seen.size(), given.size());
         for (qsizetype i = 0; i < seen.size(); ++i) {
             const auto& [depth, entry] = seen[i];
-            const QJsonObject row = given[i].toObject();
+            const QJsonObject& row = given[i];
             QCOMPARE(entry->objectName(), row["name"].toString());
             QCOMPARE(depth, row["depth"].toInt());
             QCOMPARE(entry->text(), row["caption"].toString());
