@@ -80,13 +80,9 @@ def brailled(kind, text, braille):
     return [Brailled(utterance, braille) for utterance in utterances(kind, text)]
 
 
-class Announced(Brailled):
-    """What the program itself has to say."""
-
-
 def said(text):
     """An announcement."""
-    return [Announced(utterance, text) for utterance in utterances("announcement", text)]
+    return [Brailled(utterance, text) for utterance in utterances("announcement", text)]
 
 
 def said_like(pattern):
