@@ -11,8 +11,9 @@ namespace {
 
 constexpr int smallestType = 9; // pixels
 constexpr int smallestBeforeWrapping = 11;
-constexpr int qtMargin = 2;   // what Qt leaves free at the left and right of the text
-constexpr int leftMargin = 5; // of texts that are not centred
+constexpr int smallestWhenWrapped = 8; // in which the longest readings are whole
+constexpr int qtMargin = 2;            // what Qt leaves free at the left and right of the text
+constexpr int leftMargin = 5;          // of texts that are not centred
 constexpr int wrapping = Qt::AlignLeft | Qt::AlignVCenter | Qt::TextWordWrap;
 
 } // namespace
@@ -129,7 +130,7 @@ void OneLineEdit::Fit()
     const int smallestOnOneLine = isReadOnly() ? smallestBeforeWrapping : smallestType;
     const QFont onOneLine = Fitting(m_fullFont, text(), room, Qt::TextSingleLine, smallestOnOneLine);
     const bool fits = QFontMetrics(onOneLine).horizontalAdvance(text()) <= room.width();
-    m_wrappedFont = Fitting(m_fullFont, text(), room, wrapping, smallestType);
+    m_wrappedFont = Fitting(m_fullFont, text(), room, wrapping, smallestWhenWrapped);
     m_wraps = isReadOnly() && (!fits || m_wrappedFont.pixelSize() > onOneLine.pixelSize());
     if (onOneLine != font()) {
         setFont(onOneLine);

@@ -1,9 +1,10 @@
-// A pupil who drives a number out of its range: by answering wrongly once more than the counters can count, or with a
+// A pupil who drives a number out of its range: by answering once more than the counters can count, or with a
 // quantity and a numerator of one's own, or by divisors whose product is too large. Prints the score before and after,
 // and the message that ends the program; its exit status is the program's.
 #include "Application.h"
 #include "Form2.h"
 #include "FormCantidad.h"
+#include "FormConversion.h"
 #include "FormFactores.h"
 #include "Support.h"
 
@@ -11,6 +12,7 @@
 #include <QInputDialog>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QTimer>
 
 #include <cstdio>
@@ -18,10 +20,12 @@
 
 namespace {
 
+constexpr int mostThatCounts = 32767;
+
 // Presses Enter, which is the end.
-void PressTheLastKey(const QWidget& form)
+void PressTheLastKey(const QWidget& form, const QString& scoreName = "tbResultados")
 {
-    const auto& score = support::Child<QLineEdit>(form, "tbResultados");
+    const auto& score = support::Child<QLineEdit>(form, scoreName);
     std::printf("%s\n", qUtf8Printable(score.text()));
     support::WithDialog([] { support::Press(Qt::Key_Return); },
                         [](QWidget& dialog) {
@@ -36,12 +40,23 @@ void PressTheLastKey(const QWidget& form)
 
 void AnswerWronglyTooOften(const QWidget& form)
 {
-    constexpr int most = 32767;
     support::Child<QLineEdit>(form, "Text1(5)").setFocus();
-    for (int i = 0; i < most; ++i) {
+    for (int i = 0; i < mostThatCounts; ++i) {
         support::Press(Qt::Key_Return);
     }
     PressTheLastKey(form);
+}
+
+// On the screen that counts and never shows it. No errors, whose counter would end the program, too.
+void AnswerRightlyTooOften(const QWidget& form)
+{
+    support::Child<QPushButton>(form, "Command2(2)").click();
+    auto& done = support::Child<QPushButton>(form, "Command1");
+    for (int i = 0; i < mostThatCounts; ++i) {
+        done.click();
+    }
+    done.setFocus();
+    PressTheLastKey(form, "TBResultados");
 }
 
 void AskForTooMuch(QWidget& form)
@@ -87,6 +102,9 @@ int main(int argc, char** argv)
     if (way == "counting") {
         form = new operaciones::Form2;
         act = [form] { AnswerWronglyTooOften(*form); };
+    } else if (way == "counting unseen") {
+        form = new ejercicios::FormConversion;
+        act = [form] { AnswerRightlyTooOften(*form); };
     } else if (way == "multiplying") {
         form = new ejercicios::FormCantidad;
         act = [form] { AskForTooMuch(*form); };

@@ -12,6 +12,8 @@ private slots:
         QTest::addColumn<QString>("score");
         QTest::addRow("counter") << "counting"
                                  << "Ejercicios:32767; Errores:32767";
+        QTest::addRow("counter that is not shown") << "counting unseen"
+                                                   << "Ejercicios: 0; Errores: 0";
         QTest::addRow("product") << "multiplying"
                                  << "Ejercicios:  0; Errores:  0";
         QTest::addRow("divisors") << "dividing"

@@ -83,12 +83,13 @@ private slots:
         QCOMPARE(m_menu->centralWidget()->size(), size);
         const double unit = std::nearbyint(size.width() * 15 / 11.0);
         const double row = std::nearbyint(size.height() * 15 / 19.0);
+        const auto pixels = [](double twips) { return static_cast<int>(std::lround(twips / 15)); };
         for (int i = 0; i < 12; ++i) {
-            const QRectF expected((i < 6 ? unit : 6 * unit) / 15, (3 * row * (i % 6) + row) / 15, 4 * unit / 15,
-                                  2 * row / 15);
-            const QRect seen = Command1(i).geometry();
-            QVERIFY(std::abs(seen.left() - expected.left()) <= 1 && std::abs(seen.top() - expected.top()) <= 1);
-            QVERIFY(std::abs(seen.width() - expected.width()) <= 1 && std::abs(seen.height() - expected.height()) <= 1);
+            const double left = i < 6 ? unit : 6 * unit;
+            const double top = 3 * row * (i % 6) + row;
+            const QPoint topLeft(pixels(left), pixels(top));
+            const QPoint end(pixels(left + 4 * unit), pixels(top + 2 * row));
+            QCOMPARE(Command1(i).geometry(), QRect(topLeft, end - QPoint(1, 1)));
         }
     }
 

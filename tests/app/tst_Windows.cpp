@@ -1,4 +1,5 @@
 // What holds in all twelve windows.
+#include "Given.h"
 #include "Screen.h"
 #include "Windows.h"
 
@@ -62,11 +63,15 @@ QRgb Background(const QImage& image)
 QColor Type(const QImage& image)
 {
     const QColor background = Background(image);
+    QSet<QRgb> seen;
     QColor type = background;
     for (int y = 0; y < image.height(); ++y) {
         for (int x = 0; x < image.width(); ++x) {
-            const QColor pixel = image.pixelColor(x, y);
-            type = ui::Contrast(pixel, background) > ui::Contrast(type, background) ? pixel : type;
+            const QRgb pixel = image.pixel(x, y);
+            if (!seen.contains(pixel)) {
+                seen.insert(pixel);
+                type = ui::Contrast(pixel, background) > ui::Contrast(type, background) ? QColor(pixel) : type;
+            }
         }
     }
     return type;
@@ -86,17 +91,16 @@ struct Ink
     // As good as the same, as far as two ways of drawing a text can be told apart.
     bool IsLike(const Ink& other) const
     {
-        const auto near = [](int a, int b) { return std::abs(a - b) <= 2; };
         constexpr int few = 16;
+        const auto near = [](int a, int b) { return std::abs(a - b) <= 1; };
         return near(bounds.width(), other.bounds.width()) && near(bounds.height(), other.bounds.height()) &&
                std::abs(pixels - other.pixels) <= std::max(other.pixels / 10, few);
     }
 };
 
-Ink InkOf(const QImage& image)
+Ink InkOf(const QImage& image, const QColor& background)
 {
     constexpr double visible = 1.5;
-    const QColor background = Background(image);
     QHash<QRgb, bool> known;
     Ink ink;
     for (int y = 0; y < image.height(); ++y) {
@@ -115,18 +119,42 @@ Ink InkOf(const QImage& image)
     return ink;
 }
 
-// A text as it looks where there is no end to the room below it.
-Ink InkOf(const QString& text, const QFont& font, int width, int flags, const QColor& ground, const QColor& type)
+// A text in lines of some width, with no end to the room below, on a desktop that draws everything `scale` times as
+// large.
+struct Setting
 {
-    QImage image(std::max(width, 1), 40 * font.pixelSize(), QImage::Format_RGB32);
-    image.fill(ground);
-    QPainter painter(&image);
-    painter.setFont(font);
-    painter.setPen(type);
-    painter.drawText(image.rect(), flags, text);
-    painter.end();
-    return InkOf(image);
-}
+    QString text;
+    int flags = 0;
+    int width = 1;
+    QFont font;
+    QColor ground;
+    QColor type;
+    double scale = 1;
+
+    QRect Room() const { return {0, 0, width, 100 * font.pixelSize()}; }
+    QSize Size() const { return QFontMetrics(font).boundingRect(Room(), flags, text).size() * scale; }
+
+    // Whether it may look like that.
+    bool MayBe(const Ink& seen) const
+    {
+        const QSize spare = Size() - seen.bounds.size();
+        const double pixels = font.pixelSize() * scale;
+        return spare.height() >= -1 && spare.height() < 1.3 * pixels && std::abs(spare.width()) < 6 * pixels;
+    }
+
+    Ink Drawn() const
+    {
+        QImage image(QSize(qCeil(width * scale), Size().height() + font.pixelSize()), QImage::Format_RGB32);
+        image.setDevicePixelRatio(scale);
+        image.fill(ground);
+        QPainter painter(&image);
+        painter.setFont(font);
+        painter.setPen(type);
+        painter.drawText(Room(), flags, text);
+        painter.end();
+        return InkOf(image, ground);
+    }
+};
 
 // Without the edges.
 QImage Inside(QWidget& widget)
@@ -200,6 +228,21 @@ private:
         }
     }
 
+    // In each box the longest text that an exercise puts there.
+    void FillWithTheLongest() const
+    {
+        const QList<QJsonObject> sheet = Given();
+        const QString name = m_form->objectName();
+        const auto window =
+            std::ranges::find(sheet, name, [](const QJsonObject& one) { return one["name"].toString(); });
+        QVERIFY(window != sheet.end());
+        for (const QJsonObject& control : Objects((*window)["controls"].toArray())) {
+            if (control.contains("longest")) {
+                Box(control["name"].toString()).setText(control["longest"].toString());
+            }
+        }
+    }
+
     void ResizeInside(const QSize& size) const
     {
         const QSize around = m_form->size() - m_form->centralWidget()->size();
@@ -254,19 +297,28 @@ private:
     void VerifyWhole(QWidget& widget, const QString& text, int flags) const
     {
         const QRect area = widget.mask().isEmpty() ? widget.rect() : widget.mask().boundingRect();
-        const int edge = qobject_cast<QLabel*>(&widget) == nullptr ? 1 : 0;
-        const QRect inside = area.adjusted(edge, edge, -edge, -edge);
-        const QPoint place = widget.mapTo(m_form, inside.topLeft());
-        const QImage image = m_form->grab(QRect(place, inside.size())).toImage();
-        const Ink seen = InkOf(image);
-        QVERIFY2(image.rect().adjusted(edge, edge, -edge, -edge).contains(seen.bounds),
-                 qPrintable(widget.objectName()));
+        QImage image = m_form->grab(QRect(widget.mapTo(m_form, area.topLeft()), area.size())).toImage();
+        const double scale = image.devicePixelRatio();
+        if (qobject_cast<QLabel*>(&widget) == nullptr) { // without the edge
+            const int end = scale == 1 ? 1 : 3;
+            const int begin = scale == 1 ? 1 : 2;
+            image = image.copy(image.rect().adjusted(begin, begin, -end, -end));
+        }
         const QColor ground = Background(image);
-        const QColor type = Type(image);
-        QFont font = widget.font();
-        for (; font.pixelSize() >= 8; font.setPixelSize(font.pixelSize() - 1)) {
-            for (int margin = 0; margin <= 8; ++margin) {
-                if (seen.IsLike(InkOf(text, font, inside.width() - 2 * margin, flags, ground, type))) {
+        const Ink seen = InkOf(image, ground);
+        Setting setting{text, flags, 1, widget.font(), ground, Type(image), scale};
+        // What does not go on one line may be larger on several.
+        for (int size = 4 * widget.font().pixelSize(); size >= 8; --size) {
+            setting.font.setPixelSize(size);
+            QSet<std::pair<int, int>> tried;
+            for (int margins = 0; margins <= 20; ++margins) {
+                setting.width = std::max(area.width() - margins, 1);
+                const QSize taken = setting.Size();
+                if (tried.contains({taken.width(), taken.height()}) || !setting.MayBe(seen)) {
+                    continue;
+                }
+                tried.insert({taken.width(), taken.height()});
+                if (seen.IsLike(setting.Drawn())) {
                     return;
                 }
             }
@@ -461,17 +513,21 @@ private slots:
     {
         OpenIt();
         const QSize opening = m_form->centralWidget()->size();
-        for (const double scale : {1.0, 1.5, 2.0}) {
+        QList<double> scales{1.0};
+        if (m_form->devicePixelRatio() == 1) { // where everything is larger the screen has no room for more
+            FillWithTheLongest();
+            scales << 1.5 << 2.0;
+        }
+        for (const double scale : scales) {
             ResizeInside(opening * scale);
             for (QWidget* widget : Placed()) {
                 QString text = widget->property("text").toString();
                 int flags = Qt::AlignHCenter | Qt::TextWordWrap | Qt::TextShowMnemonic;
                 if (const auto* lines = qobject_cast<QPlainTextEdit*>(widget)) {
-                    text = lines->toPlainText();
+                    text = lines->toPlainText().remove(QRegularExpression("\n$"));
                     flags = Qt::AlignLeft | Qt::TextWordWrap;
                 } else if (const auto* box = qobject_cast<QLineEdit*>(widget)) {
-                    flags = Qt::AlignHCenter | Qt::TextWordWrap;
-                    text = box->isReadOnly() ? text : QString(); // of what is typed the caret leads to the rest
+                    flags = Qt::AlignLeft | (box->isReadOnly() ? Qt::TextWordWrap : Qt::TextSingleLine);
                 }
                 if (!widget->isVisible() || text.trimmed().isEmpty()) {
                     continue;

@@ -1,4 +1,4 @@
-// The program with a fault that no lesson may pass over: the one that BROKEN names, built in place of
+// The program with a fault that no lesson may pass over: the one that KELVORA_FAULT names, built in place of
 // ui/Accessible.cpp. The real announcing is in here under another name.
 #define Announce AnnounceRightly
 #define SetUpAccessibility SetUpRightly

@@ -280,9 +280,9 @@ class Factores(ExerciseLesson):
     def ladder(self, row):
         return ["Escalera texto.", row]
 
-    def hear_value(self):
-        """Goes on to the value; what it is."""
-        match, = self.press("Tab", editable("Valor", ""), [re.compile(r"(\d+) seleccionado\.")])
+    def hear_value(self, key):
+        """Goes to the value by a key; what it is."""
+        match, = self.press(key, editable("Valor", ""), [re.compile(r"(\d+) seleccionado\.")])
         return int(match[1])
 
     def go(self, key, characters):
@@ -300,12 +300,10 @@ class Factores(ExerciseLesson):
     def test_a_lesson(self):
         self.open_screen(PROGRAM, self.name, "Instrucciones")
         self.expect_window(self.title, locked("Instrucciones", "Realiza la descomposición en factores primos"))
-        value = self.hear_value()
+        value = self.hear_value("Tab")
         while value == 1:  # which an empty ladder solves
             self.press("alt+c", self.ladder(self.empty_row))
-            self.press("shift+Tab", editable("Valor", "") + [NUMBER])
-            self.press("shift+Tab", self.instruction())
-            value = self.hear_value()
+            value = self.hear_value("shift+Tab")
         self.press("Tab", self.ladder(self.empty_row))
 
         self.press("Tab", locked("Factores primos", ""))
