@@ -31,10 +31,12 @@ if(NOT WIN32)
         QT_STYLE_OVERRIDE=Fusion QT_QPA_PLATFORM=offscreen:configfile=${PROJECT_SOURCE_DIR}/tests/support/screen.json)
 endif()
 
+set(KELVORA_TEST_TIMEOUT 1200 CACHE STRING "Seconds after which a test counts as failed")
+
 # A test that needs no display, with what is to be set in its environment beyond the usual.
 function(kelvora_inprocess test)
     set_tests_properties(${test} PROPERTIES
-        TIMEOUT 1200
+        TIMEOUT ${KELVORA_TEST_TIMEOUT}
         LABELS "inprocess;quick"
         RESOURCE_GROUPS processors:1
         ENVIRONMENT "${KELVORA_TEST_SCREEN};QT_FONT_DPI=96;LC_ALL=C.UTF-8;${ARGN}")
@@ -68,14 +70,14 @@ function(kelvora_desktop_tests label)
         foreach(line ${lines})
             if(line MATCHES "^class ([A-Za-z0-9_]+)")
                 set(class ${CMAKE_MATCH_1})
-            elseif(line MATCHES "def (test_([a-z0-9_]+))")
+            elseif(line MATCHES "def (test_([A-Za-z0-9_]+))")
                 set(test ${label}_${class}_${CMAKE_MATCH_2})
                 add_test(NAME ${test}
                     COMMAND ${PROJECT_SOURCE_DIR}/tests/support/alone /usr/bin/python3 -m unittest -v
                             ${suite}.${class}.${CMAKE_MATCH_1}
                     WORKING_DIRECTORY ${CMAKE_CURRENT_SOURCE_DIR})
                 set_tests_properties(${test} PROPERTIES
-                    TIMEOUT 1200
+                    TIMEOUT ${KELVORA_TEST_TIMEOUT}
                     LABELS "${label};desktop"
                     RESOURCE_GROUPS desktops:1
                     COST 60 # begun before what is short

@@ -27,7 +27,8 @@ new_debian() {
         touch "$kept.new"
         mv "$kept.new" "$kept"
     fi
-    cp -a --reflink=auto "$kept" "$folder" || fail "no se ha podido copiar a $folder"
+    rm -rf --one-file-system "$folder.new"
+    cp -a --reflink=auto "$kept" "$folder.new" && mv "$folder.new" "$folder" || fail "no se ha podido copiar a $folder"
     exec {lock}>&-
 }
 
@@ -51,5 +52,5 @@ INSIDE
 # copy_tree FOLDER: copies this tree into that system.
 copy_tree() {
     mkdir -p "$1/kelvora"
-    tar -c --exclude=./build --exclude=./.git . | tar -x -C "$1/kelvora" || fail "no se ha podido copiar a $1"
+    (set -o pipefail && tar -c --exclude=./build --exclude=./.git . | tar -x -C "$1/kelvora") || fail "no se ha podido copiar a $1"
 }

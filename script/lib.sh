@@ -2,7 +2,8 @@
 # top of the project.
 
 # What makes the next run quicker and is never needed.
-cache=${XDG_CACHE_HOME:-$HOME/.cache}/kelvora
+cache=${XDG_CACHE_HOME:-${HOME:-/nonexistent}/.cache}/kelvora
+mkdir -p "$cache" 2>/dev/null || cache=$(mktemp -d)
 
 fail() {
     printf 'kelvora: %s\n' "$*" >&2
@@ -21,7 +22,7 @@ as_root() {
 need() {
     command -v dpkg-query >/dev/null || fail "este programa instala sus dependencias solo en Debian 12 o posterior"
     local missing=() package log lock
-    exec {lock}>"${TMPDIR:-/tmp}/kelvora-packages.$(id -u)" && flock "$lock" || fail "no se puede escribir en ${TMPDIR:-/tmp}"
+    exec {lock}</var/lib/dpkg && flock "$lock" || fail "no se puede leer /var/lib/dpkg"
     for package in "$@"; do
         is_installed "$package" || missing+=("$package")
     done
@@ -52,14 +53,16 @@ test_packages=(ccache qt6-base-private-dev strace xvfb openbox xdotool dbus-daem
 # build PRESET [TARGET...]: configures what is not, and builds what is not up to date. What has been compiled once is not
 # compiled again, in whatever folder the tree lies, where there is ccache.
 build() {
-    local preset=$1 log
+    local preset=$1 log lock
     shift
+    mkdir -p build
+    exec {lock}>"build/$preset.lock" && flock "$lock" || fail "no se puede escribir en build"
     if command -v ccache >/dev/null; then
         export CMAKE_CXX_COMPILER_LAUNCHER=ccache CCACHE_DIR=$cache/ccache CCACHE_BASEDIR=$PWD CCACHE_NOHASHDIR=1
     fi
     log=build/$preset.log
-    mkdir -p build
     { [ -f "build/$preset/build.ninja" ] || cmake --preset "$preset"; } >"$log" 2>&1 &&
         cmake --build --preset "$preset" ${1:+--target "$@"} >>"$log" 2>&1 ||
         { tail -n 40 "$log" >&2; fail "la compilación ha fallado (todo en $log)"; }
+    exec {lock}>&-
 }

@@ -13,13 +13,6 @@ using namespace support;
 
 namespace {
 
-const QStringList captions{"Representación &gráfica",   "&Expresa con fracciones",
-                           "&Fracción de una cantidad", "D&escomposición en factores primos",
-                           "&Ordenar fracciones",       "&Conversión al mismo denominador",
-                           "&Suma de fracciones",       "&Diferencia de fracciones",
-                           "&Producto de fracciones",   "&Cociente de fracciones",
-                           "&Completa la serie",        "&Salir"};
-
 QWidgetList Windows(const QString& name)
 {
     QWidgetList found = QApplication::topLevelWidgets();
@@ -107,12 +100,13 @@ private slots:
         for (const QSize& size : {QSize(613, 650), QSize(1366, 768)}) {
             m_menu->resize(size);
             Settle();
-            for (int i = 0; i < captions.size(); ++i) {
+            for (int i = 0; i < 12; ++i) {
+                const QString caption = Command1(i).text();
                 const QRect room = Command1(i).rect().adjusted(5, 1, -5, -1);
                 const int flags = Qt::AlignCenter | Qt::TextShowMnemonic | Qt::TextWordWrap;
-                const QFont font = ui::Fitting(Command1(i).font(), captions[i], room.size(), flags, 9);
+                const QFont font = ui::Fitting(Command1(i).font(), caption, room.size(), flags, 9);
                 QVERIFY(font.pixelSize() >= 14);
-                QVERIFY(room.contains(QFontMetrics(font).boundingRect(room, flags, captions[i])));
+                QVERIFY(room.contains(QFontMetrics(font).boundingRect(room, flags, caption)));
             }
         }
     }
@@ -144,21 +138,41 @@ private slots:
         m_menu->activateWindow();
         Settle();
         if (modal) {
-            QTest::mouseClick(m_menu->windowHandle(), Qt::LeftButton, {}, QPoint(100, 100));
+            const QPushButton& series = Command1(10);
+            QTest::mouseClick(m_menu->windowHandle(), Qt::LeftButton, {}, series.mapTo(m_menu, series.rect().center()));
+            QVERIFY(Window("FormSeries") == nullptr);
         } else {
             QVERIFY(WaitActive(*m_menu));
             Press(Qt::Key_Space);
             QVERIFY(WaitActive(*screen));
         }
         QCOMPARE(Windows(name), QWidgetList{screen});
-        QVERIFY(QApplication::topLevelWidgets().size() >= 2);
 
-        screen->close();
+        // It goes alone, by its own menu where it has one.
+        if (auto* leave = screen->findChild<QAction*>(name == "FormFactores" ? "MnuOpcsal" : "MnuOpcSal")) {
+            leave->trigger();
+        } else {
+            screen->close();
+        }
         Settle();
-        QVERIFY(!screen);
+        QVERIFY(!screen && m_menu && m_menu->isVisible());
         m_menu->activateWindow(); // as a window manager does
         QVERIFY(WaitActive(*m_menu));
         QCOMPARE(Focus(), button);
+    }
+
+    void has_several_screens_open_beside_each_other()
+    {
+        const QPointer<QWidget> sum = OpenSum();
+        m_menu->activateWindow();
+        QVERIFY(WaitActive(*m_menu));
+        Command1(7).click();
+        QVERIFY(sum && sum->isVisible());
+        QVERIFY(Window("FormDiferencia") != nullptr && WaitActive(*Window("FormDiferencia")));
+        m_menu->activateWindow();
+        QVERIFY(WaitActive(*m_menu));
+        Command1(6).click();
+        QVERIFY(WaitActive(*sum));
     }
 
     void brings_a_minimised_screen_back()

@@ -306,6 +306,7 @@ private:
         }
         const QColor ground = Background(image);
         const Ink seen = InkOf(image, ground);
+        QVERIFY2(image.rect().right() > seen.bounds.right(), qPrintable(widget.objectName())); // where lines end
         Setting setting{text, flags, 1, widget.font(), ground, Type(image), scale};
         // What does not go on one line may be larger on several.
         for (int size = 4 * widget.font().pixelSize(); size >= 8; --size) {

@@ -381,6 +381,7 @@ private slots:
         QCOMPARE(Box("Text6").selectedText(), "15");
         QCOMPARE(Text("Text7"), "Resultado incorrecto");
         QCOMPARE(Text("tbResultados"), "Ejercicios:  1; Errores:  1");
+        Choose("MnuOpcDenLis(1)"); // an option changes nothing about that
         QCOMPARE(Verdict("15"), QStringList("resultado correcto"));
         QCOMPARE(Text("tbResultados"), "Ejercicios:  1; Errores:  1");
     }

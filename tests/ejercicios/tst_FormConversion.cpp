@@ -151,7 +151,7 @@ private slots:
         QCOMPARE(Verdict(Right()), QStringList("Resultado correcto"));
         QCOMPARE(Focus(), "Command2(0)");
         for (int i = 0; i < 4; ++i) {
-            for (const char* wrong : {"", "x", "99", "-1"}) {
+            for (const QString& wrong : {QString(), QString("x"), QString("99"), QString("-1"), Right()[i] + ".4"}) {
                 QStringList answers = Right();
                 answers[i] = wrong;
                 QCOMPARE(Verdict(answers), QStringList("Resultado incorrecto"));

@@ -66,6 +66,13 @@ private:
         }
     }
 
+    // Where the next ladder is written from.
+    void VerifyCaretAtTheStart() const
+    {
+        Type("7");
+        QCOMPARE(Rows()[0], "7    |    ");
+    }
+
     // Checks a value against divisors; the box that answers must hold `message`, none must open where it is empty.
     QStringList Verdict(const QString& value, const QStringList& divisors, const QString& message = {}) const
     {
@@ -146,6 +153,16 @@ private slots:
         QVERIFY(seen.contains(1) && seen.contains(limit));
     }
 
+    void draws_up_to_a_hundred_until_a_range_is_chosen()
+    {
+        int largest = 0;
+        for (int i = 0; i < 1000; ++i) {
+            Continue();
+            largest = std::max(largest, Text("TbValor").toInt());
+        }
+        QCOMPARE(largest, 100);
+    }
+
     void the_first_value_is_one_of_a_hundred_by_the_timer()
     {
         VerifySeedOfTheTimer([] { return new ejercicios::FormFactores; }, [this] { return Text("TbValor"); });
@@ -203,6 +220,9 @@ private slots:
         QCOMPARE(Rows(), value == "77" ? rows : QStringList(15, emptyRow) + QStringList(""));
         QCOMPARE(Text("TbFactores"), "7 ");
         Activate();
+        Box("Text1").setFocus();
+        Press(Qt::Key_Tab); // which puts the value of the exercise there
+        QCOMPARE(Text("Text1"), value);
         Verdict("7", {"7"});
         QCOMPARE(Text("tbResultados"), "Ejercicios:  0; Errores:  0");
     }
@@ -437,7 +457,7 @@ private slots:
         m_ear->Take();
         Press(Qt::Key_V, Qt::AltModifier);
         QCOMPARE(Text("TbValor"), "1009"); // put right
-        QVERIFY(m_ear->Take().contains("BEEP"));
+        QCOMPARE(m_ear->Take(), QStringList({"FOCUS Command2(2)", "BEEP", "FOCUS TbDesco", "SAY 1009"}));
         SetValue(QString(400, '9'));
         Button("Command2(2)").click();
         QCOMPARE(Text("TbValor"), "1009");
@@ -479,8 +499,10 @@ private slots:
         QCOMPARE(Text("TbValor"), "13");
         QCOMPARE(Text("tbResultados"), "Ejercicios:  1; Errores:  1");
         QCOMPARE(Focus(), "TbDesco");
+        VerifyCaretAtTheStart();
         Button("Command2(2)").click();
         Button("Command2(1)").click();
+        Choose("MnuOpcValLis(0)"); // an option changes nothing about that
         Verdict("13", {"13"});
         QCOMPARE(Text("tbResultados"), "Ejercicios:  1; Errores:  1"); // the solution was seen
     }
@@ -495,6 +517,7 @@ private slots:
         QCOMPARE(Text("TbFactores"), "");
         QCOMPARE(Text("Text1"), "Resultado correcto"); // stays
         QCOMPARE(Box("TbValor").selectedText(), Text("TbValor"));
+        VerifyCaretAtTheStart();
         Verdict("13", {"13"});
         QCOMPARE(Text("tbResultados"), "Ejercicios:  2; Errores:  0");
     }

@@ -96,6 +96,8 @@ private slots:
         QCOMPARE(Text("tbResultados"), "Ejercicios:  0; Errores:  0");
         QCOMPARE(Child<QPlainTextEdit>(*m_form, "Text1").toPlainText(),
                  "Escribe el número de partes a realizar y colorea las \npartes necesarias haciendo click en ellas.\n");
+        Part(0).click(); // red in the sample, which counts none
+        QCOMPARE(Coloured().text(), "-1");
     }
 
     void the_seed_is_the_time_of_day()
@@ -366,6 +368,16 @@ private slots:
         QCOMPARE(Done(), QStringList("Respuesta correcta "));
         QCOMPARE(Done(), QStringList("Respuesta correcta"));
         QCOMPARE(Text("tbResultados"), "Ejercicios:  1; Errores:  0");
+    }
+
+    void a_number_of_parts_beside_the_right_one_is_wrong()
+    {
+        SeekFraction(3, 4);
+        Divide("4.4"); // four parts
+        for (const int i : {0, 1, 2}) {
+            Part(i).click();
+        }
+        QCOMPARE(Done(), QStringList("Respuesta incorrecta"));
     }
 
     void an_equivalent_fraction_is_wrong()

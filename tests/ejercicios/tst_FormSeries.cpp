@@ -261,6 +261,10 @@ private slots:
                 continue; // still the series from before
             }
             QCOMPARE(Blank(), chosen + 3);
+            for (int i = 0; i < 8; ++i) {
+                QCOMPARE(Denominator(i).isVisible(), i <= Blank());
+                QCOMPARE(Member<QWidget>("Line1", i).isVisible(), i <= Blank());
+            }
             for (int i = 0; i < Blank(); ++i) {
                 QCOMPARE(Numerator(i).text(), QString::number(onView->numerators.at(i)));
                 QCOMPARE(Denominator(i).text(), QString::number(onView->denominators.at(i)));
@@ -309,10 +313,17 @@ private slots:
         Choose("MnuOpcDifLis(2)");
         QCOMPARE(m_ear->Take(), QStringList("FOCUS Text1(4)"));
         QCOMPARE(std::pair(Numerators(), Denominators()), before);
-        for (int i = 0; i < 8; ++i) {
-            QCOMPARE(Entry(QString("MnuOpcDifLis(%1)").arg(i)).isChecked(), i == 2);
+        Type("7");
+        QCOMPARE(Numerator(4).text(), "7");
+        QCOMPARE(Verdict(ByTheRule("Text1"), ByTheRule("Text2")), QStringList("Respuesta correcta"));
+        Button("Command2(1)").click();
+        QCOMPARE(Numerator(4).text() + Denominator(4).text(), "");
+        Button("Command2(2)").click();
+        QCOMPARE(Numerator(4).text() + "/" + Denominator(4).text(), ByTheRule("Text1") + "/" + ByTheRule("Text2"));
+        for (int i = 0; i < 20; ++i) {
+            Continue();
+            VerifyKind(2, 1); // of no easier level: that is the type marked at opening
         }
-        Continue();
         QCOMPARE(Blank(), 5);
         QCOMPARE(Focus(), "Text1(5)");
         Choose("MnuOpcDifLis(0)");
@@ -399,6 +410,8 @@ private slots:
         const QString twice = QString::number(2 * numerator.toInt());
         QCOMPARE(Verdict(twice, QString::number(2 * denominator.toInt())), QStringList("Respuesta incorrecta"));
         QCOMPARE(Verdict(numerator, "0"), QStringList("Respuesta incorrecta"));
+        QCOMPARE(Verdict(numerator + ".4", denominator), QStringList("Respuesta incorrecta"));
+        QCOMPARE(Verdict(numerator, denominator + ".4"), QStringList("Respuesta incorrecta"));
         QCOMPARE(Verdict("999", denominator), QStringList("Respuesta incorrecta"));
         QCOMPARE(Verdict(" " + numerator + ".0", denominator + " o así"), QStringList("Respuesta correcta"));
     }
@@ -460,6 +473,12 @@ private slots:
                 m_ear->Take();
                 Type("7");
                 QCOMPARE(m_ear->TakeSaid(), QStringList(value));
+                for (const char* harmless : {"x", " "}) { // the number would be the same
+                    Press(Qt::Key_End);
+                    Type(harmless);
+                    QCOMPARE(m_ear->TakeSaid(), QStringList(value));
+                    QCOMPARE(box->text(), value);
+                }
                 Press(Qt::Key_Delete);
                 Press(Qt::Key_A, Qt::ControlModifier);
                 Press(Qt::Key_Backspace);

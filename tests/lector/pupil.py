@@ -7,7 +7,7 @@ import os
 import re
 import unittest
 
-from session import OLD, SUPPORT, Session
+from session import OLD, SUPPORT, TITLE_KEY, Session
 
 PROGRAM = os.environ["KELVORA"]
 
@@ -224,8 +224,7 @@ class Lesson(unittest.TestCase):
 
     def ask_title(self, title):
         """The reader's own command: which window is this?"""
-        self.session.press_together("Insert", "KP_Enter")
-        self.expect([title])
+        self.press(TITLE_KEY, [title])
 
     def open_screen(self, program, name, first):
         """Opens a screen from the menu, whose first box is called `first`."""

@@ -38,6 +38,11 @@ Include "clients/*.conf"
 # Qt before 6.8, and the Orca of its time, 43.
 OLD = tuple(int(part) for part in os.environ["KELVORA_QT"].split(".")[:2]) < (6, 8)
 
+# The reader's command for the title of a window. Its own Insert+KP_Enter would press the button in focus where the machine
+# stands still: a key that the reader does not claim in time is the program's, and to that this one is nothing.
+TITLE_KEY = "F9"
+KEY_BINDINGS = {"getTitleHandler": [[TITLE_KEY, "365", "0", "1"]]}  # with all modifiers looked at, none pressed, once
+
 # Of the keys, only the characters typed are echoed: names of function keys and the like are cut off, or not, by the
 # speed of the fingers, and are the reader's own affair.
 ORCA_SETTINGS = {"enableKeyEcho": True, "enableFunctionKeys": False, "enableModifierKeys": False, "enableActionKeys": False,
@@ -107,8 +112,9 @@ class Session(AccessibleDesktop):
             f"import sys\nsys.path[:0] = {[str(SUPPORT), str(HERE)]}\nimport accessibility, interruptions\n")
         self.env["KELVORA_TRANSCRIPT"] = str(self.transcript)
         (folder / "user-settings.conf").write_text(json.dumps({
-            "general": ORCA_SETTINGS, "pronunciations": {}, "keybindings": {}, "profiles": {
-                "default": ORCA_SETTINGS | {"profile": ["Default", "default"], "pronunciations": {}, "keybindings": {}}}}))
+            "general": ORCA_SETTINGS, "pronunciations": {}, "keybindings": KEY_BINDINGS, "profiles": {
+                "default": ORCA_SETTINGS | {"profile": ["Default", "default"], "pronunciations": {},
+                                            "keybindings": KEY_BINDINGS}}}))
 
     def start_reader(self):
         """Starts the reader; what is heard of it."""
@@ -134,7 +140,7 @@ class Session(AccessibleDesktop):
         raise RuntimeError(f"{command[0]} did not start in five tries; its logs are in {self.home}")
 
     def end_reader(self):
-        self.end(self._reader)
+        self.end(self._reader, LIMIT)  # it writes the end of its log last
 
     def braille(self):
         """The lines that a braille display has shown, in order."""
@@ -155,12 +161,6 @@ class Session(AccessibleDesktop):
             transcript.write(self.transcript, "KEY", key)
             super().press(key)
         self._letters.update(key[-1] for key in keys if re.search(r"\+\w$", key))
-
-    def press_together(self, *keys):
-        """Presses one key after the other and lets go of them all."""
-        transcript.write(self.transcript, "KEY", "+".join(keys))
-        arguments = [word for key in keys for word in ("keydown", key)] + [word for key in reversed(keys) for word in ("keyup", key)]
-        subprocess.run(["xdotool", *arguments], env=self.env, check=True)
 
     def type(self, text):
         transcript.write(self.transcript, "KEY", text)

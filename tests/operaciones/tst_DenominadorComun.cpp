@@ -39,6 +39,13 @@ private slots:
         QCOMPARE(DenominadorComun(51, 34).Valor(), 102);
     }
 
+    void every_trial_factor_is_cancelled()
+    {
+        for (const int factor : {2, 3, 5, 7, 11, 13, 17, 23, 31, 37, 41, 43, 47, 51, 53, 59, 61, 67, 71, 73}) {
+            QCOMPARE(DenominadorComun(2 * factor, 3 * factor).Valor(), 6 * factor);
+        }
+    }
+
     void throws_where_it_does_not_fit()
     {
         QVERIFY_THROWS_EXCEPTION(numeros::Desbordamiento, DenominadorComun(32749, 32719));

@@ -6,6 +6,7 @@
 #include "Support.h"
 
 #include <QAction>
+#include <QActionGroup>
 #include <QLineEdit>
 #include <QPointer>
 #include <QPushButton>
@@ -54,7 +55,18 @@ protected:
     }
 
     void Click(const QString& name) const { QTest::mouseClick(&Button(name), Qt::LeftButton); }
-    void Choose(const QString& name) const { Entry(name).trigger(); }
+    // Of a list, the entry chosen is the one that is marked afterwards.
+    void Choose(const QString& name) const
+    {
+        const QAction& entry = Entry(name);
+        const QActionGroup* list = entry.actionGroup();
+        Entry(name).trigger();
+        if (list != nullptr) {
+            for (const QAction* other : list->actions()) {
+                QCOMPARE(other->isChecked(), other == &entry);
+            }
+        }
+    }
     void Continue() const { Button("Command2(0)").click(); }
 
     // As a window manager does when a dialog has closed.

@@ -30,7 +30,7 @@ class Quiet(unittest.TestCase):
         desktop.press("F2", "F3", "ctrl+Left")
         desktop.type("3")
         desktop.press("Return")
-        wait_for(lambda: desktop.box_texts(SUM)["Resultado"], "the verdict")
+        wait_for(lambda: desktop.box_texts(SUM).get("Resultado"), "the verdict")
         desktop.press("alt+v", "alt+c", "alt+F4")
         desktop.wait_closed(SUM)
         desktop.press("alt+F4")

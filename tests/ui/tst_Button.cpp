@@ -46,6 +46,8 @@ private slots:
         Press(Qt::Key_D, Qt::AltModifier);
         const QString second = Focus();
         QCOMPARE(QSet<QString>({first, second}), QSet<QString>({"CbUno", "CbDos"}));
+        QTest::simulateEvent(QApplication::focusWidget(), true, Qt::Key_D, Qt::AltModifier, "d", true); // held
+        QCOMPARE(Focus(), second);
         QTest::qWait(150); // longer than Qt's animated press
         QCOMPARE(m_clicked, QStringList());
     }

@@ -121,11 +121,12 @@ private slots:
             Press(Qt::Key_Backspace);
             Press(Qt::Key_Return);
             Press(Qt::Key_Enter);
+            Press(Qt::Key_Return, Qt::ControlModifier);
             Press(Qt::Key_Escape);
             Press(Qt::Key_C, Qt::ControlModifier);
             Press(Qt::Key_Left);
             Press(Qt::Key_F5);
-            QCOMPARE(codes, QList<int>({'7', 'a', 0xD1, 8, 13, 13, 27, 3}));
+            QCOMPARE(codes, QList<int>({'7', 'a', 0xD1, 8, 13, 13, 13, 27, 3}));
             QCOMPARE(box->Text(), before);
         }
     }
@@ -180,6 +181,24 @@ private slots:
         Settle();
         QCOMPARE(Editable().SelStart(), 0);
         QCOMPARE(Editable().SelLength(), 0);
+        Press(Qt::Key_Tab);
+        Editable().Select(3, 0);
+        Press(Qt::Key_Backtab, Qt::ShiftModifier);
+        Settle();
+        QCOMPARE(Editable().SelStart(), 0);
+    }
+
+    void a_locked_text_of_several_lines_begins_at_its_start_whenever_the_focus_comes()
+    {
+        Child<QPlainTextEdit>(*m_form, "TbDesco").setReadOnly(true);
+        for (const Qt::FocusReason way : {Qt::TabFocusReason, Qt::BacktabFocusReason}) {
+            Lines().SetFocus();
+            Lines().Select(3, 0);
+            Editable().SetFocus();
+            Lines().Widget().setFocus(way);
+            Settle();
+            QCOMPARE(Lines().SelStart(), 0);
+        }
     }
 
     void a_selection_made_right_after_a_tab_stays()
@@ -513,23 +532,60 @@ private slots:
         QCOMPARE(start, 0);
         QCOMPARE(end, 2);
 #endif
-        QVERIFY(!interface->state().readOnly);
-        QVERIFY(QAccessible::queryAccessibleInterface(&Child<QLineEdit>(*m_form, "Text1(1)"))->state().readOnly);
+    }
+
+    void the_reader_selects_edits_and_finds_the_text()
+    {
+        Editable().Text("12");
+        auto& box = Child<QLineEdit>(*m_form, "Text1(0)");
+        auto* interface = QAccessible::queryAccessibleInterface(&box);
+        QVERIFY(!interface->state().readOnly && interface->state().editable && interface->state().selectableText);
+        auto* text = interface->textInterface();
         text->setCursorPosition(1);
         QCOMPARE(text->cursorPosition(), 1);
+        QCOMPARE(text->selectionCount(), 0);
+        int from = -1;
+        int to = -1;
         text->addSelection(0, 2);
-        int from = 0;
-        int to = 0;
         text->selection(0, &from, &to);
-        QCOMPARE(to - from, 2);
+        QCOMPARE(std::pair(from, to), std::pair(0, 2));
+        QCOMPARE(text->selectionCount(), 1);
+        text->setSelection(0, 1, 2);
+        text->setSelection(1, 0, 2); // there is one at most
+        text->removeSelection(1);
+        QCOMPARE(box.selectedText(), "2");
+        text->removeSelection(0);
+        QVERIFY(!box.hasSelectedText());
+        text->scrollToSubstring(2, 2);
+        QCOMPARE(text->cursorPosition(), 2);
+
         int changes = 0;
         Editable().OnChange = [&changes](int) { ++changes; };
-        interface->editableTextInterface()->insertText(2, "7");
+        auto* editing = interface->editableTextInterface();
+        editing->insertText(2, "7");
         QCOMPARE(Editable().Text(), "127");
         QCOMPARE(changes, 1);
-        interface->editableTextInterface()->deleteText(0, 1);
+        editing->deleteText(0, 1);
         QCOMPARE(Editable().Text(), "27");
-        QVERIFY(text->characterRect(1).left() > text->characterRect(0).left());
+        editing->replaceText(0, 1, "35");
+        QCOMPARE(Editable().Text(), "357");
+
+        const QRect inside(box.mapToGlobal(QPoint()), box.size());
+        for (int offset = 0; offset < 3; ++offset) {
+            const QRect character = text->characterRect(offset);
+            QVERIFY(inside.contains(character) && character.width() > 1 && character.height() > 5);
+            QVERIFY(offset == 0 || std::abs(character.left() - text->characterRect(offset - 1).right()) <= 1);
+            QCOMPARE(text->offsetAtPoint(character.center() - QPoint(1, 0)), offset);
+        }
+    }
+
+    void the_reader_cannot_change_a_locked_box()
+    {
+        auto* interface = QAccessible::queryAccessibleInterface(&Child<QLineEdit>(*m_form, "Text1(1)"));
+        QVERIFY(interface->state().readOnly);
+        interface->editableTextInterface()->insertText(0, "7");
+        interface->editableTextInterface()->deleteText(0, 1);
+        QCOMPARE(Child<QLineEdit>(*m_form, "Text1(1)").text(), "dos");
     }
 };
 
