@@ -7,7 +7,7 @@ import os
 import re
 import unittest
 
-from session import OLD, SUPPORT, TITLE_KEY, Session
+from session import OLD, SUPPORT, TITLE_KEY, WHERE_KEY, Session
 
 PROGRAM = os.environ["KELVORA"]
 
@@ -267,6 +267,5 @@ class Lesson(unittest.TestCase):
             self.expect([Perhaps(box[0])], behind, [Perhaps(text) for text in box[:-1]], button(answer))
             # Of the key that presses the button too, it says the last letter ("Intro", "Alt+S").
             key = [Perhaps("o."), Perhaps("S.")]
-            self.session.press("KP_Enter", "KP_Enter")
-            self.expect([Perhaps(button(answer)[0])], key, box, key)
+            self.press(WHERE_KEY, key, box, key)
         self.ask_title(title)

@@ -38,10 +38,13 @@ Include "clients/*.conf"
 # Qt before 6.8, and the Orca of its time, 43.
 OLD = tuple(int(part) for part in os.environ["KELVORA_QT"].split(".")[:2]) < (6, 8)
 
-# The reader's command for the title of a window. Its own Insert+KP_Enter would press the button in focus where the machine
-# stands still: a key that the reader does not claim in time is the program's, and to that this one is nothing.
-TITLE_KEY = "F9"
-KEY_BINDINGS = {"getTitleHandler": [[TITLE_KEY, "365", "0", "1"]]}  # with all modifiers looked at, none pressed, once
+# The reader's commands for the title of a window and for where one is, in full. Where the machine stands still, a key that
+# the reader does not claim in time is the program's: the reader's own Insert+KP_Enter would press the button in focus; and
+# of KP_Enter twice it would see two single ones. To the program these two are nothing.
+TITLE_KEY, WHERE_KEY = "F9", "F8"
+# With all modifiers looked at, none pressed, once.
+KEY_BINDINGS = {handler: [[key, "365", "0", "1"]]
+                for handler, key in (("getTitleHandler", TITLE_KEY), ("whereAmIDetailedHandler", WHERE_KEY))}
 
 # Of the keys, only the characters typed are echoed: names of function keys and the like are cut off, or not, by the
 # speed of the fingers, and are the reader's own affair.
