@@ -299,6 +299,11 @@ private:
         const QRect area = widget.mask().isEmpty() ? widget.rect() : widget.mask().boundingRect();
         QImage image = m_form->grab(QRect(widget.mapTo(m_form, area.topLeft()), area.size())).toImage();
         const double scale = image.devicePixelRatio();
+        if (qobject_cast<QGroupBox*>(&widget) != nullptr) { // its title, without what lies in it
+            image.fill(widget.palette().color(QPalette::Window));
+            widget.render(&image, {}, {}, QWidget::DrawWindowBackground);
+            image = image.copy(0, 0, image.width(), qRound(scale * (QFontMetrics(widget.font()).height() + 6)));
+        }
         if (qobject_cast<QLabel*>(&widget) == nullptr) { // without the edge
             const int end = scale == 1 ? 1 : 3;
             const int begin = scale == 1 ? 1 : 2;
@@ -524,7 +529,9 @@ private slots:
             for (QWidget* widget : Placed()) {
                 QString text = widget->property("text").toString();
                 int flags = Qt::AlignHCenter | Qt::TextWordWrap | Qt::TextShowMnemonic;
-                if (const auto* lines = qobject_cast<QPlainTextEdit*>(widget)) {
+                if (const auto* frame = qobject_cast<QGroupBox*>(widget)) {
+                    text = frame->title();
+                } else if (const auto* lines = qobject_cast<QPlainTextEdit*>(widget)) {
                     text = lines->toPlainText().remove(QRegularExpression("\n$"));
                     flags = Qt::AlignLeft | Qt::TextWordWrap;
                 } else if (const auto* box = qobject_cast<QLineEdit*>(widget)) {

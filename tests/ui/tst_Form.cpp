@@ -162,9 +162,13 @@ private slots:
         const int before = Child<QLabel>(*m_form, "LbCuenta").font().pixelSize();
         m_form->The<ui::Label>("LbCuenta").Caption("Rojas: 12; Total: 25.");
         const auto& label = Child<QLabel>(*m_form, "LbCuenta");
-        QVERIFY(label.font().pixelSize() < before);
-        const QRect drawn = QFontMetrics(label.font()).boundingRect(label.rect(), Qt::TextWordWrap, label.text());
-        QVERIFY(label.rect().contains(drawn));
+        for (const int wider : {0, 1}) {
+            m_form->resize(m_form->width() + wider, m_form->height());
+            Settle();
+            QVERIFY(label.font().pixelSize() < before);
+            const QRect drawn = QFontMetrics(label.font()).boundingRect(label.rect(), Qt::TextWordWrap, label.text());
+            QVERIFY(label.rect().contains(drawn));
+        }
     }
 
     void the_cells_of_a_picture_box_share_their_edges()

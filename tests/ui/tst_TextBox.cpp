@@ -21,6 +21,13 @@ private:
     ui::TextBox& Lines() const { return m_form->The<ui::TextBox>("TbDesco"); }
 
 private slots:
+    void initTestCase()
+    {
+        // Nothing has changed the desktop's colours yet, and selected text can be read all the same.
+        const QPalette colors = QApplication::palette();
+        QVERIFY(ui::Contrast(colors.color(QPalette::Highlight), colors.color(QPalette::HighlightedText)) >= 4.5);
+    }
+
     void init()
     {
         m_form = std::make_unique<sample::SampleForm>();
