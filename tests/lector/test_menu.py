@@ -1,6 +1,7 @@
 """The main menu through the screen reader."""
 
 import os
+import re
 import unittest
 
 import test_ejercicios
@@ -16,6 +17,12 @@ class Screens(unittest.TestCase):
         lessons = {lesson.title for module in (test_ejercicios, test_operaciones) for lesson in vars(module).values()
                    if isinstance(lesson, type) and "test_a_lesson" in vars(lesson)}
         self.assertEqual(lessons, {window["title"] for window in GIVEN[1:]})
+
+    def test_each_has_one_under_wine_in_the_order_of_the_menu(self):
+        titles = {window["opened by"]: window["title"] for window in GIVEN[1:]}
+        source = (SUPPORT.parent / "windows/test_windows.py").read_text()
+        self.assertEqual(re.findall(r'^    \("(.*?)", ', source, re.MULTILINE),
+                         [titles[f"Command1({i})"] for i in range(len(titles))])
 
 
 class Menu(Lesson):
