@@ -182,7 +182,7 @@ class Lesson(unittest.TestCase):
         for text in texts:
             self.assertIsNone(re.search(ENGLISH, text, re.IGNORECASE), text)
             self.assertIsNone(re.search(MARKS, text), text)
-        self.session.end_reader()  # which writes its log late
+        self.session.end_reader()
         lines = self.session.braille()
         line = 0
         for text in (text.braille for text in self.expected if isinstance(text, Brailled)):

@@ -112,7 +112,9 @@ class Session(AccessibleDesktop):
         folder = self.home / ".local/share/orca"
         folder.mkdir(parents=True)
         (folder / "orca-customizations.py").write_text(
-            f"import sys\nsys.path[:0] = {[str(SUPPORT), str(HERE)]}\nimport accessibility, interruptions\n")
+            f"import sys\nsys.path[:0] = {[str(SUPPORT), str(HERE)]}\nimport accessibility, interruptions\n"
+            # Whatever becomes of the reader, its log is whole.
+            "from orca import debug\ndebug.debugFile.reconfigure(line_buffering=True)\n")
         self.env["KELVORA_TRANSCRIPT"] = str(self.transcript)
         (folder / "user-settings.conf").write_text(json.dumps({
             "general": ORCA_SETTINGS, "pronunciations": {}, "keybindings": KEY_BINDINGS, "profiles": {
@@ -143,7 +145,7 @@ class Session(AccessibleDesktop):
         raise RuntimeError(f"{command[0]} did not start in five tries; its logs are in {self.home}")
 
     def end_reader(self):
-        self.end(self._reader, LIMIT)  # it writes the end of its log last
+        self.end(self._reader)
 
     def braille(self):
         """The lines that a braille display has shown, in order."""

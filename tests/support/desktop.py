@@ -94,11 +94,11 @@ class Desktop:
     def type(self, text):
         subprocess.run(["xdotool", "type", "--delay", "120", "--", text], env=self.env, check=True)
 
-    def end(self, child, patience=5):
-        """Ends a program and those that it has started, by force after so many seconds."""
+    def end(self, child):
+        """Ends a program and those that it has started."""
         with contextlib.suppress(ProcessLookupError, subprocess.TimeoutExpired):
             os.killpg(child.pid, signal.SIGTERM)
-            child.wait(patience)
+            child.wait(5)
         with contextlib.suppress(ProcessLookupError):
             os.killpg(child.pid, signal.SIGKILL)
         child.wait()
