@@ -1,10 +1,16 @@
 #include "Accessible.h"
 
+#include "AccessibleLineEdit.h"
 #include "Labels.h"
+#include "Silence.h"
 
 #include <QAccessible>
 #include <QAccessibleWidget>
 #include <QApplication>
+#include <QCloseEvent>
+#include <QEventLoop>
+#include <QLineEdit>
+#include <QTimer>
 
 #if QT_VERSION < QT_VERSION_CHECK(6, 8, 0)
 #include "AccessibleBefore68.h"
@@ -16,6 +22,9 @@ namespace {
 
 QAccessibleInterface* Interface(const QString&, QObject* object)
 {
+    if (auto* edit = qobject_cast<QLineEdit*>(object)) {
+        return NewLineEditInterface(*edit);
+    }
     if (auto* line = qobject_cast<LineWidget*>(object)) {
         return new QAccessibleWidget(line, QAccessible::Separator); // a plain widget is called a filler
     }
@@ -58,6 +67,20 @@ private:
     }
 };
 
+// Blocks all windows, as the one will do that opens, and cannot be seen.
+class Blocker final : public QWidget
+{
+public:
+    Blocker()
+    {
+        setWindowModality(Qt::ApplicationModal);
+        setAttribute(Qt::WA_DontShowOnScreen);
+    }
+
+protected:
+    void closeEvent(QCloseEvent* event) override { event->ignore(); }
+};
+
 } // namespace
 
 void SetUpAccessibility()
@@ -65,6 +88,20 @@ void SetUpAccessibility()
     static LateReader lateReader;
     QAccessible::installFactory(Interface);
     QAccessible::installActivationObserver(&lateReader);
+}
+
+void LetReaderCatchUp()
+{
+    constexpr int moment = 50; // milliseconds; with 30 each of ten boxes was read whole, without, half of them
+    if (!keysComeBesideTheProgram || !QAccessible::isActive()) {
+        return;
+    }
+    Blocker blocker;
+    Silently([&blocker] { blocker.show(); });
+    QEventLoop loop;
+    QTimer::singleShot(moment, &loop, &QEventLoop::quit);
+    loop.exec(QEventLoop::ExcludeUserInputEvents);
+    Silently([&blocker] { blocker.hide(); });
 }
 
 void Announce(QWidget& source, const QString& text)

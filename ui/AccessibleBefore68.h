@@ -1,5 +1,5 @@
-// Accessibility for Qt before 6.8, which Debian 12 has: announcements without an event of their own, and one-line text
-// boxes whose last character is not lost. Goes when the oldest Qt that is supported does.
+// Accessibility for Qt before 6.8, which Debian 12 has: announcements without an event of their own. Goes when the
+// oldest Qt that is supported does.
 #pragma once
 
 #include <QString>

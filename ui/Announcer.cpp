@@ -5,6 +5,8 @@
 #include <QApplication>
 #include <QStringList>
 
+#include <algorithm>
+
 namespace ui {
 
 namespace {
@@ -36,6 +38,35 @@ void Announcer::Say(QWidget& source, const QString& text)
     }
 }
 
+void Announcer::SayAlone(QWidget& source, const QString& text)
+{
+    Take(*source.window());
+    Say(source, text);
+}
+
+Announcer::Message Announcer::Take(const QWidget& window)
+{
+    Message taken;
+    QStringList texts;
+    std::erase_if(m_messages, [&](const Message& message) {
+        const bool isOfWindow = message.source && message.source->window() == &window;
+        if (isOfWindow) {
+            taken.source = message.source;
+            texts += message.text;
+        }
+        return isOfWindow || !message.source;
+    });
+    taken.text = texts.join(' ');
+    return taken;
+}
+
+bool Announcer::IsSilent(const QWidget& window) const
+{
+    return std::ranges::none_of(m_messages, [&window](const Message& message) {
+        return message.source && message.source->window() == &window;
+    });
+}
+
 void Announcer::EventEnded(QEvent::Type type)
 {
     switch (type) {
@@ -59,18 +90,8 @@ void Announcer::Flush()
     if (m_messages.empty() || focus == nullptr) {
         return;
     }
-    QWidget* source = nullptr;
-    QStringList texts;
-    std::erase_if(m_messages, [&](const Message& message) {
-        const bool canBeHeard = message.source && message.source->window() == focus->window();
-        if (canBeHeard) {
-            source = message.source;
-            texts += message.text;
-        }
-        return canBeHeard || !message.source;
-    });
-    if (source != nullptr) {
-        Announce(*source, texts.join(' '));
+    if (const Message message = Take(*focus->window()); !message.text.isEmpty()) {
+        Announce(*message.source, message.text);
     }
 }
 

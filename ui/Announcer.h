@@ -28,20 +28,26 @@ public:
     // An empty text takes that back.
     void Say(QWidget& source, const QString& text);
 
-    // Whether nothing waits to be announced.
-    bool IsSilent() const { return m_messages.empty(); }
-
-    // To be called when an event of this type has been handled with all that it brought about.
-    void EventEnded(QEvent::Type type);
-
-private:
-    void Flush();
+    // The same in place of all that waits to be announced from the window of `source`.
+    void SayAlone(QWidget& source, const QString& text);
 
     struct Message
     {
         QPointer<QWidget> source;
         QString text;
     };
+
+    // What waits to be announced from `window`, joined to one. It does not wait any more; empty where nothing does.
+    Message Take(const QWidget& window);
+
+    // Whether nothing waits to be announced from `window`.
+    bool IsSilent(const QWidget& window) const;
+
+    // To be called when an event of this type has been handled with all that it brought about.
+    void EventEnded(QEvent::Type type);
+
+private:
+    void Flush();
 
     std::vector<Message> m_messages;
 };

@@ -4,7 +4,6 @@
 #include "Look.h"
 
 #include <QIcon>
-#include <QKeyEvent>
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QThread>
@@ -45,7 +44,7 @@ bool Application::notify(QObject* receiver, QEvent* event)
         return QApplication::notify(receiver, event);
     }
     const QEvent::Type type = event->type(); // the event may be gone when it has been handled
-    if (IsLateAlt(*event)) {
+    if (m_keys.Postpones(*receiver, *event)) {
         return true;
     }
     ++m_depth;
@@ -67,23 +66,6 @@ void Application::MakeSelectionLegible()
         colors.setColor(QPalette::HighlightedText, legible);
         setPalette(colors);
     }
-}
-
-// With a screen reader on, Qt asks it about each key press and delivers the key again later: the Alt of Alt+S can come
-// after the S, and that of Alt alone after its release. The menu bar would then take it for one pressed alone, or for a
-// second one; a menu just opened by its access key would close.
-bool Application::IsLateAlt(const QEvent& event)
-{
-    const QEvent::Type type = event.type();
-    if (type != QEvent::ShortcutOverride && type != QEvent::KeyPress && type != QEvent::KeyRelease) {
-        return false;
-    }
-    const bool isAlt = static_cast<const QKeyEvent&>(event).key() == Qt::Key_Alt;
-    if (event.spontaneous()) { // the finger's own, not its second delivery; an access key is offered and not delivered
-        m_altIsFresh = isAlt && type != QEvent::KeyRelease;
-        return false;
-    }
-    return isAlt && type == QEvent::KeyPress && !m_altIsFresh;
 }
 
 void End()

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Announcer.h"
+#include "KeyOrder.h"
 
 #include <QApplication>
 #include <QTranslator>
@@ -22,9 +23,8 @@ protected:
 
 private:
     void MakeSelectionLegible();
-    bool IsLateAlt(const QEvent& event);
 
-    bool m_altIsFresh = false;
+    KeyOrder m_keys;
     int m_depth = 0;
     Announcer m_announcer;
     QTranslator m_translator;

@@ -22,12 +22,16 @@ constexpr int edgeWidth = 1;
 constexpr int focusWidth = 3;
 constexpr int captionMargin = focusWidth + 2;
 
-// The focus has gone to a button and come back: for a reader that is no news, and the pupil would not know whether the
-// key has done anything.
-void SayAgain(QWidget& focus)
+// Runs `action`, which presses a button. Where that leaves the focus in the box where it was, perhaps by way of the
+// button, a reader tells nothing, and the pupil would not know whether the key has done anything.
+template <class Action>
+void SayWhereItLeads(Action action)
 {
-    if (const auto* edit = dynamic_cast<EditWidget*>(&focus)) {
-        Announcer::Instance().Say(focus, (focus.accessibleName() + ' ' + edit->CaretLine()).simplified());
+    const QPointer<QWidget> before = QApplication::focusWidget();
+    action();
+    const auto* box = dynamic_cast<const EditWidget*>(QApplication::focusWidget());
+    if (box != nullptr && before == QApplication::focusWidget() && Announcer::Instance().IsSilent(*before->window())) {
+        Announcer::Instance().Say(*before, (before->accessibleName() + ' ' + box->CaretLine()).simplified());
     }
 }
 
@@ -41,26 +45,6 @@ void FaceButton::SetFace(const QColor& face)
 {
     m_face = face;
     update();
-}
-
-bool FaceButton::event(QEvent* event)
-{
-    // Qt would show the button pressed for 100 ms first, and all that the pupil is to hear would come late. An access
-    // key that several buttons share is left to Qt, which moves the focus round them and presses none.
-    if (event->type() == QEvent::Shortcut) {
-        const auto* shortcut = static_cast<QShortcutEvent*>(event);
-        setShortcutAutoRepeat(shortcut->shortcutId(), false); // a key held down presses once
-        if (!shortcut->isAmbiguous()) {
-            const QPointer<QWidget> before = QApplication::focusWidget();
-            setFocus(Qt::ShortcutFocusReason);
-            click();
-            if (before && before == QApplication::focusWidget() && Announcer::Instance().IsSilent()) {
-                SayAgain(*before);
-            }
-            return true;
-        }
-    }
-    return QPushButton::event(event);
 }
 
 void FaceButton::keyPressEvent(QKeyEvent* event)
@@ -111,7 +95,7 @@ Button::Button(const ControlDesign& design, FaceButton* button)
     Caption(design.text);
     QObject::connect(button, &QPushButton::clicked, button, [this] {
         if (OnClick) {
-            Run([this] { OnClick(Index()); });
+            SayWhereItLeads([this] { Run([this] { OnClick(Index()); }); });
         }
     });
 }
@@ -132,10 +116,24 @@ void Button::Says(std::string_view name)
     }
 }
 
+void Button::Press()
+{
+    SayWhereItLeads([this] {
+        m_button.setFocus(Qt::ShortcutFocusReason);
+        m_button.click();
+    });
+}
+
 void Button::Refuse() const
 {
     Beep();
     Announcer::Instance().Say(m_button, m_name);
+}
+
+void Button::SayWith(std::string_view more) const
+{
+    const bool isRead = newNamesAreRead && m_button.hasFocus();
+    Announcer::Instance().Say(m_button, (isRead ? QString() : m_name + "; ") + ToQString(more));
 }
 
 void Button::NameChanged()

@@ -10,8 +10,7 @@
 
 namespace ui {
 
-// The face is exactly the given colour and the caption black, whatever the desktop's theme. The access key and Enter
-// press it at once.
+// The face is exactly the given colour and the caption black, whatever the desktop's theme. Enter presses it.
 class FaceButton final : public QPushButton
 {
     Q_OBJECT
@@ -22,7 +21,6 @@ public:
     void SetFace(const QColor& face);
 
 protected:
-    bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
@@ -45,6 +43,15 @@ public:
 
     // Beeps and says the name: pressing the button has changed nothing.
     void Refuse() const;
+
+    // Says the new name, where a reader does not read it by itself, and `more`: pressing the button has changed both.
+    void SayWith(std::string_view more) const;
+
+    // Puts the focus on the button and presses it, at once.
+    void Press();
+
+    // Whether this is its access key.
+    bool HasAccessKey(const QKeySequence& key) const { return m_button.shortcut() == key; }
 
     void BackColor(Color color) { m_button.SetFace(ToQColor(color)); }
 

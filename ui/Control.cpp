@@ -12,6 +12,7 @@ Control::Control(const ControlDesign& design, QWidget& widget)
 {
     widget.setObjectName(ObjectName(design.name, design.index));
     widget.setAccessibleName(ToQString(design.says));
+    widget.setAccessibleDescription(ToQString(design.keys));
     if (design.tab == noTab) {
         widget.setFocusPolicy(Qt::NoFocus);
     }

@@ -6,6 +6,7 @@
 
 #include <QWidget>
 
+#include <string>
 #include <string_view>
 
 namespace ui {
@@ -24,6 +25,9 @@ public:
     int Index() const { return m_design.index; }
     const ControlDesign& Design() const { return m_design; }
     QWidget& Widget() const { return m_widget; }
+
+    // What the control shows, in UTF-8; empty where that is no text.
+    virtual std::string Text() const { return {}; }
 
     void SetFocus();
     void Enabled(bool enabled);

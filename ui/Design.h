@@ -19,8 +19,8 @@ enum class Kind { OneLine, MultiLine, Button, Label, Frame, Picture, Line };
 // nothing else: paste, cut, drop and the like are undone with a beep.
 enum class Typing { Editable, Locked, KeysOnly };
 
-// Whatever the program writes to a spoken box or label is announced.
-enum class Speaking { Silent, Spoken };
+// Whatever the program writes to a spoken box or label is announced. The score is told by F4; a screen has one at most.
+enum class Speaking { Silent, Spoken, Score };
 
 // The desktop's colours for text boxes, or those for selected text.
 enum class Coloring { Plain, Selection };
@@ -36,6 +36,7 @@ struct ControlDesign
     int index = noIndex;
     std::string_view text = {};   // initial text, or caption with "&" before the access key
     std::string_view says = {};   // the accessible name; empty where the caption serves
+    std::string_view keys = {};   // the accessible description: keys that no menu names
     Place place = {};             // in the client area, or in what the control is `inside`
     int tab = noTab;              // position in the tab order
     std::string_view inside = {}; // the object name of the frame or picture box that holds the control
@@ -87,6 +88,7 @@ struct FormDesign
     int height = 0;
     std::span<const ControlDesign> controls = {};
     std::span<const MenuDesign> menus = {};
+    std::string_view keys = {}; // the accessible description: keys that no menu names
     Resizing resizing = Resizing::Scale;
 };
 

@@ -1,11 +1,15 @@
 #include "Dialogs.h"
 
+#include "Accessible.h"
+#include "Announcer.h"
+#include "Form.h"
 #include "Silence.h"
 #include "Strings.h"
 
 #include <QApplication>
 #include <QInputDialog>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -39,11 +43,23 @@ public:
     }
 };
 
+void SayBefore(QMessageBox& box, Form& screen, const QString& said)
+{
+    auto* label = box.findChild<QLabel*>("qt_msgbox_label");
+    if (boxesCutMessagesOff && label != nullptr) {
+        label->setAccessibleName(said.trimmed() + ". " + box.text());
+    } else {
+        Announce(screen, said);
+    }
+}
+
 // Captions of our own, since Qt's Spanish ones come from a file that may be missing.
 QMessageBox::StandardButton Show(QMessageBox::Icon icon, std::string_view title, std::string_view text,
                                  QMessageBox::StandardButtons buttons)
 {
-    QMessageBox box(icon, TitleOr(title), ToQString(text), buttons, QApplication::activeWindow());
+    Form* screen = Form::Front();
+    const QString said = screen == nullptr ? QString() : Announcer::Instance().Take(*screen).text;
+    QMessageBox box(icon, TitleOr(title), ToQString(text), buttons, screen);
     box.setTextFormat(Qt::PlainText);
     if (QAbstractButton* ok = box.button(QMessageBox::Ok)) {
         ok->setText("Aceptar");
@@ -51,9 +67,14 @@ QMessageBox::StandardButton Show(QMessageBox::Icon icon, std::string_view title,
     if (QAbstractButton* yes = box.button(QMessageBox::Yes)) {
         yes->setText("&Sí");
         box.button(QMessageBox::No)->setText("&No");
+        box.setDefaultButton(QMessageBox::Yes); // some desktops have "No" first, and the focus would be there
         box.setEscapeButton(QMessageBox::No);
     }
+    if (!said.isEmpty()) { // what the screen has just said is heard before the box's text
+        SayBefore(box, *screen, said);
+    }
     const HeldEnter ignored(box);
+    LetReaderCatchUp();
     return static_cast<QMessageBox::StandardButton>(box.exec());
 }
 
@@ -77,13 +98,14 @@ void FatalBox(std::string_view text)
 
 std::string InputBox(std::string_view prompt, std::string_view title, std::string_view initial)
 {
-    QInputDialog box(QApplication::activeWindow());
+    QInputDialog box(Form::Front());
     box.setWindowTitle(TitleOr(title));
     box.setLabelText(ToQString(prompt));
     Silently([&] { box.setTextValue(ToQString(initial)); }); // it is read when the box opens
     box.setOkButtonText("Aceptar");
     box.setCancelButtonText("Cancelar");
     const HeldEnter ignored(box);
+    LetReaderCatchUp();
     return box.exec() == QDialog::Accepted ? box.textValue().toStdString() : std::string();
 }
 

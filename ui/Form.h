@@ -9,6 +9,7 @@
 #include "TextBox.h"
 
 #include <QMainWindow>
+#include <QShortcutEvent>
 
 #include <algorithm>
 #include <memory>
@@ -31,6 +32,9 @@ public:
     // Brings an open screen to the front, and back if it was minimised.
     void BringForward();
 
+    // The screen that was the active window last, which is behind an open box; null where there is none any more.
+    static Form* Front();
+
 protected:
     explicit Form(const FormDesign& design);
 
@@ -47,6 +51,14 @@ protected:
 
     // The control that has the focus, or null.
     const Control* ActiveControl() const;
+
+    // Has `text` announced in place of what was said before in the same event. It is written nowhere.
+    void Tell(std::string_view text);
+
+    // The exercise for the ear, of a screen that does not write it into a spoken box. It is told when the screen opens
+    // and on F3; where there is a new one, the screen has it told.
+    virtual std::string Exercise() const { return {}; }
+    void TellExercise();
 
     // The control of this name; the design must have it.
     template <class T>
@@ -86,16 +98,23 @@ private:
 
     void BuildControls();
     void ChainTabOrder();
+    double TextScale() const;
+    QSize OpeningSize() const;
     void Arrange();
     KeyResult Handle(QObject* watched, QEvent& event);
+    KeyResult HandleKey(Control& control, QEvent& event);
+    void AccessKey(Button& button, const QShortcutEvent& event);
     KeyResult KeyPressed(Control& control, const QKeyEvent& event);
+    KeyResult Offer(Control& control, const QKeyEvent& event);
     static void Commit(Control& control, QInputMethodEvent& event);
     Control* ControlOf(const QObject* widget) const;
+    Control* FirstThat(Speaking speaking) const;
 
     const FormDesign m_design;
     std::vector<std::unique_ptr<Control>> m_controls;
     std::vector<std::unique_ptr<MenuItem>> m_menuItems;
     std::vector<QWidget*> m_tabStops;
+    bool m_lockedIsSaid = false; // of the box in focus, since the pupil began to type into it
 };
 
 } // namespace ui

@@ -16,6 +16,7 @@ inline constexpr int R = 82;
 inline constexpr int F1 = 112;
 inline constexpr int F2 = 113;
 inline constexpr int F3 = 114;
+inline constexpr int F4 = 115;
 } // namespace KeyCode
 
 namespace ShiftMask {
@@ -30,8 +31,9 @@ inline constexpr int Enter = 13;
 inline constexpr int Escape = 27;
 } // namespace KeyAscii
 
-// What a handler does with a key press: lets the control have it, or keeps it for itself.
-enum class KeyResult { Pass, Swallow };
+// What a handler does with a key press: leaves it to the control; uses it and lets the control have it too; keeps it
+// for itself.
+enum class KeyResult { Pass, Share, Swallow };
 
 // Letters and digits have the code of their capital character; 0 for a key that no screen answers to.
 int KeyCodeOf(const QKeyEvent& event);
@@ -46,5 +48,8 @@ int KeyAsciiOf(const QKeyEvent& event);
 
 // Whether the key has a printable character, whatever the modifiers.
 bool TypesText(const QKeyEvent& event);
+
+// Whether the key is only held beside others: Shift, Control, Alt and the like.
+bool IsModifier(const QKeyEvent& event);
 
 } // namespace ui

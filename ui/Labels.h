@@ -15,6 +15,7 @@ class Label final : public Control
 public:
     Label(const ControlDesign& design, QWidget* parent);
 
+    std::string Text() const override { return m_label.text().toStdString(); }
     void Caption(std::string_view caption);
 
 protected:

@@ -18,7 +18,8 @@ constexpr int wrapping = Qt::AlignLeft | Qt::AlignVCenter | Qt::TextWordWrap;
 
 } // namespace
 
-OneLineEdit::OneLineEdit(const ControlDesign& design, QWidget* parent) : QLineEdit(parent), m_coloring(design.coloring)
+OneLineEdit::OneLineEdit(const ControlDesign& design, QWidget* parent)
+    : QLineEdit(parent), m_coloring(design.coloring), m_isSpoken(design.speaking == Speaking::Spoken)
 {
     setFrame(false); // the edge is painted here: Qt's would leave too little room for five digits
     setReadOnly(design.typing == Typing::Locked);
@@ -94,7 +95,7 @@ void OneLineEdit::paintEvent(QPaintEvent* event)
         painter.fillRect(rect(), palette().base());
         painter.setFont(m_wrappedFont);
         painter.setPen(palette().color(QPalette::Text));
-        painter.drawText(TextArea(), wrapping, text());
+        painter.drawText(TextArea(), wrapping, m_isSpoken ? text().trimmed() : text());
     } else {
         QLineEdit::paintEvent(event);
     }
@@ -127,10 +128,13 @@ void OneLineEdit::Fit()
     }
     const QRect area = TextArea();
     const QSize room = area.size() - QSize(1, 0); // for the caret
+    // A spoken text that is repeated has a blank more, before it or behind it, and is not to be drawn otherwise for
+    // that.
+    const QString longest = m_isSpoken ? text().trimmed() + ' ' : text();
     const int smallestOnOneLine = isReadOnly() ? smallestBeforeWrapping : smallestType;
-    const QFont onOneLine = Fitting(m_fullFont, text(), room, Qt::TextSingleLine, smallestOnOneLine);
-    const bool fits = QFontMetrics(onOneLine).horizontalAdvance(text()) <= room.width();
-    m_wrappedFont = Fitting(m_fullFont, text(), room, wrapping, smallestWhenWrapped);
+    const QFont onOneLine = Fitting(m_fullFont, longest, room, Qt::TextSingleLine, smallestOnOneLine);
+    const bool fits = QFontMetrics(onOneLine).horizontalAdvance(longest) <= room.width();
+    m_wrappedFont = Fitting(m_fullFont, longest, room, wrapping, smallestWhenWrapped);
     m_wraps = isReadOnly() && (!fits || m_wrappedFont.pixelSize() > onOneLine.pixelSize());
     if (onOneLine != font()) {
         setFont(onOneLine);

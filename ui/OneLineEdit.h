@@ -40,6 +40,7 @@ private:
     QRect TextArea() const;
 
     const Coloring m_coloring;
+    const bool m_isSpoken;
     QFont m_fullFont;
     QFont m_wrappedFont;
     bool m_wraps = false;

@@ -98,6 +98,11 @@ void TextBox::Say() const
     Announcer::Instance().Say(Widget(), m_edit.ExactText());
 }
 
+void TextBox::SayLocked() const
+{
+    Announcer::Instance().Say(Widget(), "solo lectura");
+}
+
 void TextBox::Refuse() const
 {
     Beep();

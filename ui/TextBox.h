@@ -16,7 +16,7 @@ public:
     TextBox(const ControlDesign& design, QWidget* parent);
 
     // UTF-8, a line end being CR and LF.
-    std::string Text() const;
+    std::string Text() const override;
 
     // Runs Change at once where the text is another one. A spoken box announces the text even if it is the same; an
     // empty text says nothing.
@@ -26,6 +26,8 @@ public:
     // The number that the text begins with, 0 where it begins with none.
     double Number() const;
 
+    bool IsLocked() const { return Design().typing == Typing::Locked; }
+
     // Start and length of the selection in characters from 0; the caret where nothing is selected.
     int SelStart() const { return m_edit.SelStart(); }
     int SelLength() const { return m_edit.SelLength(); }
@@ -34,6 +36,9 @@ public:
 
     // Announces the text, of a box that is not spoken whenever the program writes to it.
     void Say() const;
+
+    // Announces that the box is locked: the pupil has just typed into it.
+    void SayLocked() const;
 
     // Beeps and says the line of the caret: what the pupil has just tried is refused or put right, and this holds.
     void Refuse() const;

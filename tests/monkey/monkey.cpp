@@ -61,6 +61,10 @@ private:
     void Tick()
     {
         m_timer.start();
+        const QWidget* modal = QApplication::activeModalWidget();
+        if (modal != nullptr && modal->testAttribute(Qt::WA_DontShowOnScreen)) {
+            return; // a box is about to open, and no window can be reached
+        }
         switch (m_turn = (m_turn + 1) % 3) {
         case 0:
             if (IsDone()) {
@@ -143,28 +147,28 @@ private:
             Qt::KeyboardModifiers modifiers;
         };
         static constexpr Pressed keys[]{
-            {Qt::Key_Tab, Qt::NoModifier},        {Qt::Key_Tab, Qt::NoModifier},
-            {Qt::Key_Tab, Qt::NoModifier},        {Qt::Key_Backtab, Qt::ShiftModifier},
-            {Qt::Key_Return, Qt::NoModifier},     {Qt::Key_Return, Qt::NoModifier},
-            {Qt::Key_Enter, Qt::KeypadModifier},  {Qt::Key_Space, Qt::NoModifier},
-            {Qt::Key_Escape, Qt::NoModifier},     {Qt::Key_F1, Qt::NoModifier},
-            {Qt::Key_F2, Qt::NoModifier},         {Qt::Key_F3, Qt::NoModifier},
-            {Qt::Key_Right, Qt::ControlModifier}, {Qt::Key_Left, Qt::ControlModifier},
-            {Qt::Key_Up, Qt::ControlModifier},    {Qt::Key_Down, Qt::ControlModifier},
-            {Qt::Key_Right, Qt::NoModifier},      {Qt::Key_Left, Qt::NoModifier},
-            {Qt::Key_Up, Qt::NoModifier},         {Qt::Key_Down, Qt::NoModifier},
-            {Qt::Key_Home, Qt::NoModifier},       {Qt::Key_End, Qt::NoModifier},
-            {Qt::Key_Backspace, Qt::NoModifier},  {Qt::Key_Delete, Qt::NoModifier},
-            {Qt::Key_A, Qt::ControlModifier},     {Qt::Key_C, Qt::ControlModifier},
-            {Qt::Key_V, Qt::ControlModifier},     {Qt::Key_X, Qt::ControlModifier},
-            {Qt::Key_Z, Qt::ControlModifier},     {Qt::Key_R, Qt::ControlModifier},
-            {Qt::Key_H, Qt::AltModifier},         {Qt::Key_C, Qt::AltModifier},
-            {Qt::Key_B, Qt::AltModifier},         {Qt::Key_V, Qt::AltModifier},
-            {Qt::Key_O, Qt::AltModifier},         {Qt::Key_P, Qt::AltModifier},
-            {Qt::Key_A, Qt::AltModifier},         {Qt::Key_E, Qt::AltModifier},
-            {Qt::Key_D, Qt::AltModifier},         {Qt::Key_G, Qt::AltModifier},
-            {Qt::Key_S, Qt::AltModifier},         {Qt::Key_N, Qt::AltModifier},
-            {Qt::Key_Alt, Qt::NoModifier},
+            {Qt::Key_Tab, Qt::NoModifier},       {Qt::Key_Tab, Qt::NoModifier},
+            {Qt::Key_Tab, Qt::NoModifier},       {Qt::Key_Backtab, Qt::ShiftModifier},
+            {Qt::Key_Return, Qt::NoModifier},    {Qt::Key_Return, Qt::NoModifier},
+            {Qt::Key_Enter, Qt::KeypadModifier}, {Qt::Key_Space, Qt::NoModifier},
+            {Qt::Key_Escape, Qt::NoModifier},    {Qt::Key_F1, Qt::NoModifier},
+            {Qt::Key_F2, Qt::NoModifier},        {Qt::Key_F3, Qt::NoModifier},
+            {Qt::Key_F4, Qt::NoModifier},        {Qt::Key_Right, Qt::ControlModifier},
+            {Qt::Key_Left, Qt::ControlModifier}, {Qt::Key_Up, Qt::ControlModifier},
+            {Qt::Key_Down, Qt::ControlModifier}, {Qt::Key_Right, Qt::NoModifier},
+            {Qt::Key_Left, Qt::NoModifier},      {Qt::Key_Up, Qt::NoModifier},
+            {Qt::Key_Down, Qt::NoModifier},      {Qt::Key_Home, Qt::NoModifier},
+            {Qt::Key_End, Qt::NoModifier},       {Qt::Key_Backspace, Qt::NoModifier},
+            {Qt::Key_Delete, Qt::NoModifier},    {Qt::Key_A, Qt::ControlModifier},
+            {Qt::Key_C, Qt::ControlModifier},    {Qt::Key_V, Qt::ControlModifier},
+            {Qt::Key_X, Qt::ControlModifier},    {Qt::Key_Z, Qt::ControlModifier},
+            {Qt::Key_R, Qt::ControlModifier},    {Qt::Key_H, Qt::AltModifier},
+            {Qt::Key_C, Qt::AltModifier},        {Qt::Key_B, Qt::AltModifier},
+            {Qt::Key_V, Qt::AltModifier},        {Qt::Key_O, Qt::AltModifier},
+            {Qt::Key_P, Qt::AltModifier},        {Qt::Key_A, Qt::AltModifier},
+            {Qt::Key_E, Qt::AltModifier},        {Qt::Key_D, Qt::AltModifier},
+            {Qt::Key_G, Qt::AltModifier},        {Qt::Key_S, Qt::AltModifier},
+            {Qt::Key_N, Qt::AltModifier},        {Qt::Key_Alt, Qt::NoModifier},
         };
         if (One(2)) { // something typed
             static const QString typed = "0123456789012345678901234567890123456789-+.,=|lLñ€ ";
@@ -186,7 +190,7 @@ private:
             return;
         }
         Note("key " + QKeySequence(key | modifiers).toString());
-        if (key == Qt::Key_F4) { // the window manager's
+        if (key == Qt::Key_F4 && modifiers == Qt::AltModifier) { // the window manager's
             window.close();
             return;
         }

@@ -135,10 +135,9 @@ protected:
     // Whether the control stands where it should, in twips, to the pixel.
     bool StandsAt(const QString& name, double left, double top, double width, double height) const
     {
-        const QRect seen = Child<QWidget>(*m_form, name).geometry();
-        const auto near = [](int pixels, double twips) { return std::abs(pixels - twips / 15) <= 1; };
-        return near(seen.left(), left) && near(seen.top(), top) && near(seen.width(), width) &&
-               near(seen.height(), height);
+        const QPoint topLeft = (QPointF(left, top) / 15).toPoint();
+        const QPoint end = (QPointF(left + width, top + height) / 15).toPoint();
+        return Child<QWidget>(*m_form, name).geometry() == QRect(topLeft, end - QPoint(1, 1));
     }
 
     QPointer<ui::Form> m_form;

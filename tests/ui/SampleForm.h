@@ -53,6 +53,12 @@ constexpr ui::ControlDesign controls[]{
     {.kind = Button, .name = "Command2", .index = 1, .text = "7\r\n-\r\n9", .place = {1400, 4400, 1200, 900}, .tab = 8},
     {.kind = Button, .name = "CbUno", .text = "&Doble", .place = {100, 5400, 1200, 500}, .tab = 9},
     {.kind = Button, .name = "CbDos", .text = "Otro &doble", .place = {1400, 5400, 1200, 500}, .tab = 10},
+    {.name = "tbResultados",
+     .text = "Ejercicios:  0",
+     .says = "Marcador",
+     .place = {100, 5900, 2600, 100},
+     .tab = 11,
+     .speaking = ui::Speaking::Score},
 };
 
 constexpr ui::MenuDesign menus[]{
@@ -70,20 +76,22 @@ constexpr ui::MenuDesign menus[]{
 class SampleForm final : public ui::Form
 {
 public:
-    SampleForm()
+    explicit SampleForm(std::span<const ui::MenuDesign> entries = menus)
         : Form({.name = "Muestra",
                 .caption = "Muestra",
                 .width = 3300,
                 .height = 6000,
                 .controls = controls,
-                .menus = menus})
+                .menus = entries})
     {
     }
 
     using Form::ActiveControl;
     using Form::All;
+    using Form::Tell;
     using Form::The;
 
+    std::string exercise;
     std::function<void()> OnLoad;
     std::function<ui::KeyResult(int, int)> OnKeyDown;
 
@@ -94,6 +102,7 @@ private:
             OnLoad();
         }
     }
+    std::string Exercise() const override { return exercise; }
     ui::KeyResult Form_KeyDown(int KeyCode, int Shift) override
     {
         return OnKeyDown ? OnKeyDown(KeyCode, Shift) : ui::KeyResult::Pass;

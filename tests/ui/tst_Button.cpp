@@ -39,17 +39,83 @@ private slots:
         QCOMPARE(Focus(), "Command2(0)");
     }
 
-    void shares_an_access_key_without_being_pressed()
+    void an_access_key_shared_by_several_leads_to_the_next_after_the_focus_and_presses_none()
     {
-        Press(Qt::Key_D, Qt::AltModifier);
-        const QString first = Focus();
-        Press(Qt::Key_D, Qt::AltModifier);
-        const QString second = Focus();
-        QCOMPARE(QSet<QString>({first, second}), QSet<QString>({"CbUno", "CbDos"}));
-        QTest::simulateEvent(QApplication::focusWidget(), true, Qt::Key_D, Qt::AltModifier, "d", true); // held
-        QCOMPARE(Focus(), second);
+        m_form->All<ui::Button>("Command2")[1].Caption("&Dos\r\ntres"); // a third one
+        const auto next = [this](const QString& from) {
+            Widget(from).setFocus();
+            Press(Qt::Key_D, Qt::AltModifier);
+            return Focus();
+        };
+        for (int round = 0; round < 2; ++round) {
+            QCOMPARE(next("Text1(0)"), "Command2(1)");
+            QCOMPARE(next("Command2(0)"), "Command2(1)");
+            QCOMPARE(next("Command2(1)"), "CbUno");
+            QCOMPARE(next("CbUno"), "CbDos");
+            QCOMPARE(next("CbDos"), "Command2(1)");
+            QCOMPARE(next("CbUno"), "CbDos"); // wherever the key has led before
+        }
+        Widget("CbDos").setEnabled(false);
+        QCOMPARE(next("CbUno"), "Command2(1)");
+        Widget("CbDos").setEnabled(true);
+        Widget("CbUno").hide();
+        QCOMPARE(next("Command2(1)"), "CbDos");
         QTest::qWait(150); // longer than Qt's animated press
         QCOMPARE(m_clicked, QStringList());
+    }
+
+    void an_access_key_held_down_acts_once()
+    {
+        const auto hold = [](Qt::Key key) {
+            QTest::simulateEvent(QApplication::focusWidget(), true, key, Qt::AltModifier, QString(QChar(key)), true);
+        };
+        Press(Qt::Key_D, Qt::AltModifier);
+        QCOMPARE(Focus(), "CbUno");
+        hold(Qt::Key_D);
+        QCOMPARE(Focus(), "CbUno");
+        Press(Qt::Key_C, Qt::AltModifier);
+        hold(Qt::Key_C);
+        QCOMPARE(m_clicked, QStringList("Command2/0"));
+    }
+
+    void says_where_the_focus_is_where_pressing_it_leads_back_there()
+    {
+        Ear ear;
+        auto& button = m_form->All<ui::Button>("Command2")[0];
+        ui::TextBox& box = m_form->All<ui::TextBox>("Text1")[0];
+        button.OnClick = [&box](int) {
+            box.Text("");
+            box.SetFocus();
+        };
+        box.SetFocus();
+        ear.Take();
+        Press(Qt::Key_C, Qt::AltModifier);
+        QCOMPARE(ear.Take(), QStringList({"FOCUS Command2(0)", "FOCUS Text1(0)", "SAY Primera caja"}));
+        dynamic_cast<QAbstractButton&>(Widget("Command2(0)"))
+            .click(); // as a reader's own command does, without the focus
+        QCOMPARE(ear.Take(), QStringList("SAY Primera caja"));
+        button.SetFocus();
+        ear.Take();
+        Press(Qt::Key_Space);
+        QCOMPARE(ear.Take(), QStringList("FOCUS Text1(0)")); // which is told
+    }
+
+    void says_more_beside_its_new_name_once()
+    {
+        Ear ear;
+        auto& button = m_form->The<ui::Button>("CbUno");
+        const auto renamed = [&](const char* name) {
+            button.Caption(name);
+            button.SayWith("partes coloreadas: 1");
+            return ear.TakeSaid();
+        };
+        m_form->The<ui::Button>("CbDos").SetFocus();
+        QCOMPARE(renamed("1 - rojo"), QStringList("1 - rojo; partes coloreadas: 1"));
+        button.SetFocus();
+        ear.Take();
+        // In focus a newer reader reads the name itself.
+        QCOMPARE(renamed("1 - verde"),
+                 QStringList(ui::newNamesAreRead ? "partes coloreadas: 1" : "1 - verde; partes coloreadas: 1"));
     }
 
     void is_pressed_by_enter_by_space_and_by_the_mouse()

@@ -1,11 +1,18 @@
+#include "Accessible.h"
 #include "Dialogs.h"
+#include "SampleForm.h"
 #include "Support.h"
 
+#include <QDialogButtonBox>
 #include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QProxyStyle>
 #include <QPushButton>
+#include <QScopeGuard>
+#include <QTimer>
+#include <qpa/qwindowsysteminterface.h>
 
 using namespace support;
 
@@ -80,6 +87,147 @@ private slots:
                        Press(Qt::Key(key), escape ? Qt::NoModifier : Qt::AltModifier);
                    });
         QCOMPARE(answer, yes ? ui::Answer::Yes : ui::Answer::No);
+    }
+
+    void enter_answers_yes_in_whatever_order_the_desktop_has_the_buttons_data()
+    {
+        QTest::addColumn<int>("layout");
+        QTest::addRow("Windows") << int(QDialogButtonBox::WinLayout);
+        QTest::addRow("macOS") << int(QDialogButtonBox::MacLayout);
+        QTest::addRow("KDE") << int(QDialogButtonBox::KdeLayout);
+        QTest::addRow("GNOME") << int(QDialogButtonBox::GnomeLayout);
+    }
+    void enter_answers_yes_in_whatever_order_the_desktop_has_the_buttons()
+    {
+        class Style final : public QProxyStyle
+        {
+        public:
+            explicit Style(int layout) : m_layout(layout) {}
+            int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                          QStyleHintReturn* data) const override
+            {
+                return hint == SH_DialogButtonLayout ? m_layout : QProxyStyle::styleHint(hint, option, widget, data);
+            }
+
+        private:
+            int m_layout;
+        };
+        QFETCH(int, layout);
+        const QString usual = QApplication::style()->name();
+        const auto restore = qScopeGuard([&usual] { QApplication::setStyle(usual); });
+        QApplication::setStyle(new Style(layout));
+        ui::Answer answer = ui::Answer::No;
+        QList<int> places;
+        WithDialog([&answer] { answer = ui::MsgBoxYesNo("¿desea continuar?"); },
+                   [&places](QWidget& dialog) {
+                       auto& box = dynamic_cast<QMessageBox&>(dialog);
+                       QCOMPARE(QApplication::focusWidget(), box.button(QMessageBox::Yes));
+                       places = {box.button(QMessageBox::Yes)->x(), box.button(QMessageBox::No)->x()};
+                       Press(Qt::Key_Return);
+                   });
+        QCOMPARE(answer, ui::Answer::Yes);
+        const bool noFirst = layout == QDialogButtonBox::GnomeLayout || layout == QDialogButtonBox::MacLayout;
+        QCOMPARE(places[1] < places[0], noFirst);
+    }
+
+    void what_was_just_said_is_told_before_the_text_and_not_again()
+    {
+        sample::SampleForm form;
+        form.setAttribute(Qt::WA_DeleteOnClose, false);
+        form.Open(ui::Modality::Modeless);
+        QVERIFY(WaitActive(form));
+        Ear ear;
+        QString label;
+        const auto show = [&] {
+            ui::MsgBox("El producto");
+            ui::MsgBox("Otra cosa");
+        };
+        form.The<ui::Button>("CbUno").OnClick = [&](int) {
+            form.The<ui::TextBox>("Text3").Text(" Resultado incorrecto");
+            show();
+        };
+        QStringList told;
+        QStringList before; // said before the box had the focus
+        const auto answer = [&](QWidget& dialog) {
+            for (const QString& heard : Ear::TakeSoFar()) {
+                before += heard.startsWith("SAY") ? QStringList(heard) : QStringList();
+            }
+            QCOMPARE(dialog.parentWidget(), &form);
+            const auto& text = Child<QLabel>(dialog, "qt_msgbox_label");
+            told += QAccessible::queryAccessibleInterface(&const_cast<QLabel&>(text))->text(QAccessible::Name);
+            told += text.text();
+            QTest::keyClick(&dialog, Qt::Key_Return);
+        };
+        WithDialogs([&form] { Child<QPushButton>(form, "CbUno").click(); }, {answer, answer});
+        WithDialog([] { ui::InputBox("Introduzca la cantidad:", "Introducir cantidad"); },
+                   [&form](QWidget& dialog) {
+                       QCOMPARE(dialog.parentWidget(), &form);
+                       QTest::keyClick(&dialog, Qt::Key_Escape);
+                   });
+        const QString withText = ui::boxesCutMessagesOff ? "Resultado incorrecto. " : "";
+        QCOMPARE(told, QStringList({withText + "El producto", "El producto", "Otra cosa", "Otra cosa"}));
+        QCOMPARE(before, ui::boxesCutMessagesOff ? QStringList() : QStringList("SAY  Resultado incorrecto"));
+        form.activateWindow();
+        QVERIFY(WaitActive(form));
+        QCOMPARE(ear.TakeSaid(), QStringList());
+    }
+
+    void a_reader_that_gets_keys_beside_the_program_has_a_moment_before_a_box_opens_data()
+    {
+        QTest::addColumn<bool>("readerIsOn");
+        QTest::addColumn<std::function<void()>>("open");
+        const std::function message = [] { ui::MsgBox("Texto"); };
+        const std::function input = [] { ui::InputBox("Introduzca la cantidad:", "Introducir cantidad"); };
+        QTest::addRow("message") << true << std::function<void()>(message);
+        QTest::addRow("input") << true << std::function<void()>(input);
+        QTest::addRow("no reader") << false << std::function<void()>(message);
+    }
+    void a_reader_that_gets_keys_beside_the_program_has_a_moment_before_a_box_opens()
+    {
+        QFETCH(bool, readerIsOn);
+        QFETCH(std::function<void()>, open);
+        SetReader(readerIsOn);
+        const auto restore = qScopeGuard([] { SetReader(true); });
+        bool blocked = false;
+        bool closed = false;
+        QTimer look;
+        QObject::connect(&look, &QTimer::timeout, &look, [&] {
+            QWidget* modal = QApplication::activeModalWidget();
+            if (modal != nullptr && modal->testAttribute(Qt::WA_DontShowOnScreen)) {
+                blocked = true;
+                closed = closed || modal->close(); // by nothing
+            }
+        });
+        look.start(1);
+        WithDialog(open, [](QWidget& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
+        QCOMPARE(blocked, readerIsOn && ui::keysComeBesideTheProgram);
+        QVERIFY(!closed);
+    }
+
+    void keys_that_come_while_a_box_is_about_to_open_do_nothing()
+    {
+        sample::SampleForm form;
+        form.setAttribute(Qt::WA_DeleteOnClose, false);
+        form.Open(ui::Modality::Modeless);
+        QVERIFY(WaitActive(form));
+        int clicks = 0;
+        ui::TextBox& box = form.All<ui::TextBox>("Text1")[0];
+        form.The<ui::Button>("CbUno").OnClick = [&](int) {
+            ++clicks;
+            // Keys that a screen reader was asked about come back while the box has not opened yet.
+            for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+                QCoreApplication::postEvent(form.windowHandle(),
+                                            new QKeyEvent(type, Qt::Key_Space, Qt::NoModifier, " "));
+            }
+            QWindowSystemInterface::handleCloseEvent(form.windowHandle());
+            ui::MsgBox("Texto");
+        };
+        form.The<ui::Button>("CbUno").SetFocus();
+        WithDialog([&form] { Child<QPushButton>(form, "CbUno").click(); },
+                   [](QWidget& dialog) { QTest::keyClick(&dialog, Qt::Key_Return); });
+        QCOMPARE(clicks, 1);
+        QVERIFY(form.isVisible());
+        QCOMPARE(box.Text(), std::string("uno"));
     }
 
     void an_input_begins_with_its_default_and_gives_what_is_typed()

@@ -10,7 +10,7 @@
 #include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QTimer>
-#include <qpa/qwindowsysteminterface.h>
+#include <QWindow>
 
 using namespace support;
 using ui::KeyResult;
@@ -47,6 +47,39 @@ private slots:
         QCOMPARE(m_form->height(), 400 + m_form->menuBar()->height());
         QCOMPARE(m_form->windowTitle(), "Muestra");
         QCOMPARE(QAccessible::queryAccessibleInterface(m_form)->role(), QAccessible::Window);
+    }
+
+    void a_screen_without_menus_has_no_menu_bar()
+    {
+        delete m_form;
+        m_form = new sample::SampleForm(std::span<const ui::MenuDesign>());
+        Open();
+        QVERIFY(m_form->menuWidget() == nullptr);
+        QVERIFY(m_form->findChildren<QMenuBar*>().isEmpty());
+        const QAccessibleInterface* tree = QAccessible::queryAccessibleInterface(m_form);
+        for (int i = 0; i < tree->childCount(); ++i) {
+            QVERIFY(tree->child(i)->role() != QAccessible::MenuBar);
+        }
+        const QString before = Focus();
+        Press(Qt::Key_Alt);
+        Press(Qt::Key_O, Qt::AltModifier);
+        QCOMPARE(Focus(), before);
+    }
+
+    void its_places_are_exact_at_the_size_in_which_it_opens()
+    {
+        Open();
+        for (const ui::ControlDesign& design : sample::controls) {
+            const QString name = QString::fromUtf8(design.name.data(), qsizetype(design.name.size())) +
+                                 (design.index < 0 ? QString() : QString("(%1)").arg(design.index));
+            if (design.inside.empty()) { // inside a box, edges may be rounded into it
+                QCOMPARE(Child<QWidget>(*m_form, name).geometry(), ui::ToPixels(design.place, 1));
+            }
+        }
+        // Twice as large, everything is.
+        m_form->resize(440, 800 + m_form->menuBar()->height());
+        Settle();
+        QCOMPARE(Child<QWidget>(*m_form, "TbMensajes").geometry(), ui::ToPixels({100, 3400, 2600, 400}, 2));
     }
 
     void opens_with_the_focus_on_the_first_control()
@@ -91,6 +124,49 @@ private slots:
         QTest::mouseClick(other.windowHandle(), Qt::LeftButton, {}, place);
         QTest::keyClick(other.windowHandle(), Qt::Key_Return);
         QCOMPARE(clicks, 1);
+    }
+
+    void a_modal_screen_belongs_to_the_one_that_it_blocks()
+    {
+        sample::SampleForm menu;
+        menu.setAttribute(Qt::WA_DeleteOnClose, false);
+        menu.Open(ui::Modality::Modeless);
+        QVERIFY(WaitActive(menu));
+        QCOMPARE(ui::Form::Front(), &menu);
+        Open(ui::Modality::Modal);
+        QCOMPARE(m_form->windowHandle()->transientParent(), menu.windowHandle());
+        QCOMPARE(m_form->windowHandle()->type(), Qt::Dialog); // or X11 would not be told of it
+        QVERIFY(!m_form->windowFlags().testFlag(Qt::WindowMinimizeButtonHint));
+        QVERIFY(m_form->windowFlags().testFlag(Qt::WindowMaximizeButtonHint));
+        QVERIFY(m_form->windowFlags().testFlag(Qt::WindowCloseButtonHint));
+        QCOMPARE(QAccessible::queryAccessibleInterface(m_form)->role(), QAccessible::Window);
+        Press(Qt::Key_Escape);
+        QVERIFY(m_form->isVisible());
+        QCOMPARE(ui::Form::Front(), m_form.data());
+    }
+
+    void a_modeless_screen_belongs_to_none()
+    {
+        sample::SampleForm menu;
+        menu.setAttribute(Qt::WA_DeleteOnClose, false);
+        menu.Open(ui::Modality::Modeless);
+        QVERIFY(WaitActive(menu));
+        Open();
+        QVERIFY(m_form->windowHandle()->transientParent() == nullptr);
+        QCOMPARE(m_form->windowHandle()->type(), Qt::Window);
+    }
+
+    void asking_for_a_blocked_screen_brings_the_modal_one()
+    {
+        sample::SampleForm menu;
+        menu.setAttribute(Qt::WA_DeleteOnClose, false);
+        menu.Open(ui::Modality::Modeless);
+        QVERIFY(WaitActive(menu));
+        Open(ui::Modality::Modal);
+        m_form->showMinimized();
+        menu.activateWindow();
+        QTRY_VERIFY(!m_form->isMinimized());
+        QVERIFY(WaitActive(*m_form));
     }
 
     void every_object_bears_its_name()
@@ -303,6 +379,117 @@ private slots:
         QCOMPARE(ear.TakeSaid(), QStringList());
     }
 
+    void tells_a_text_alone_and_writes_it_nowhere()
+    {
+        Open();
+        Ear ear;
+        m_form->The<ui::Button>("CbUno").OnClick = [this](int) {
+            Box("Text3").Text("Uno");
+            m_form->Tell("dos tercios");
+            Box("TBFrac").SetFocus();
+        };
+        m_form->The<ui::Button>("CbUno").SetFocus();
+        ear.Take();
+        Press(Qt::Key_Space);
+        QCOMPARE(ear.Take(), QStringList({"FOCUS TBFrac", "SAY dos tercios"}));
+        QCOMPARE(Box("TbMensajes").Text(), "");
+    }
+
+    void a_screen_that_has_an_exercise_for_the_ear_tells_it_when_it_opens_and_on_f3()
+    {
+        Ear ear;
+        m_form->exercise = "dos tercios";
+        m_form->Open(ui::Modality::Modeless);
+        QVERIFY(WaitActive(*m_form));
+        QCOMPARE(ear.Take(), QStringList({"FOCUS Text1(1)", "SAY dos tercios"}));
+        Child<QWidget>(*m_form, "CbUno").setFocus();
+        ear.Take();
+        Press(Qt::Key_F3);
+        QCOMPARE(ear.Take(), QStringList("SAY dos tercios"));
+        m_form->OnKeyDown = [](int, int) { return KeyResult::Swallow; };
+        Press(Qt::Key_F3); // the screen has another use for it
+        QCOMPARE(ear.Take(), QStringList());
+    }
+
+    void f4_tells_the_score_wherever_the_focus_is_and_moves_nothing()
+    {
+        Open();
+        Ear ear;
+        for (const char* name : {"Text1(0)", "Text1(1)", "TbDesco", "TBFrac", "Command2(0)", "tbResultados"}) {
+            Child<QWidget>(*m_form, name).setFocus();
+            ear.Take();
+            Press(Qt::Key_F4);
+            QCOMPARE(ear.Take(), QStringList("SAY Ejercicios:  0"));
+            QCOMPARE(Focus(), name);
+        }
+        for (const Qt::KeyboardModifier held : {Qt::AltModifier, Qt::ControlModifier, Qt::ShiftModifier}) {
+            Press(Qt::Key_F4, held);
+            QCOMPARE(ear.Take(), QStringList());
+        }
+    }
+
+    void a_locked_box_says_so_once_while_somebody_types_into_it()
+    {
+        Open();
+        Ear ear;
+        const auto typed = [&ear](const QString& text) {
+            Type(text);
+            return ear.TakeSaid();
+        };
+        const QStringList once("solo lectura");
+        Box("Text1").SetFocus(); // the first of the two boxes, which takes typing
+        QCOMPARE(typed("7a"), QStringList());
+        Child<QWidget>(*m_form, "Text1(1)").setFocus();
+        QCOMPARE(typed("7"), once);
+        QCOMPARE(typed("a B"), QStringList());
+        Press(Qt::Key_Shift);
+        Press(Qt::Key_Backspace);
+        QCOMPARE(ear.Take(), QStringList()); // not a beep either
+        Press(Qt::Key_Left);
+        QCOMPARE(typed("7"), once);
+        Press(Qt::Key_Tab);
+        Press(Qt::Key_Backtab, Qt::ShiftModifier);
+        QCOMPARE(typed("7"), once);
+        for (const Qt::Key beside : {Qt::Key_AltGr, Qt::Key_Meta, Qt::Key_CapsLock, Qt::Key_Control, Qt::Key_Alt}) {
+            QTest::sendKeyEvent(QTest::Click, QApplication::focusWidget(), beside, QString(), Qt::NoModifier);
+            QCOMPARE(typed("7"), QStringList());
+        }
+        Child<QWidget>(*m_form, "TbMensajes").setFocus(); // another locked one, and no key between
+        ear.Take();
+        QCOMPARE(typed("7"), once);
+        Child<QWidget>(*m_form, "Text1(1)").setFocus();
+        ear.Take();
+        for (const auto& [key, held] : {std::pair(Qt::Key_Left, Qt::NoModifier),
+                                        {Qt::Key_Delete, Qt::NoModifier},
+                                        {Qt::Key_Return, Qt::NoModifier},
+                                        {Qt::Key_Escape, Qt::NoModifier},
+                                        {Qt::Key_C, Qt::ControlModifier},
+                                        {Qt::Key_X, Qt::AltModifier}}) {
+            Press(key, held);
+            QCOMPARE(ear.Take(), QStringList());
+        }
+        QCOMPARE(Box("Text1").Text(), "7auno");
+        QCOMPARE(m_form->All<ui::TextBox>("Text1")[1].Text(), "dos");
+    }
+
+    void a_locked_box_leaves_it_to_the_screen_where_that_uses_the_key()
+    {
+        Open();
+        Ear ear;
+        Child<QWidget>(*m_form, "Text1(1)").setFocus();
+        m_form->OnKeyDown = [](int code, int) { return code == 'L' ? KeyResult::Share : KeyResult::Pass; };
+        m_form->All<ui::TextBox>("Text1")[1].OnKeyPress = [](int, int KeyAscii) {
+            return KeyAscii == '7' ? KeyResult::Share : KeyAscii == '8' ? KeyResult::Swallow : KeyResult::Pass;
+        };
+        Type("L78");
+        QCOMPARE(ear.TakeSaid(), QStringList());
+        Type("9");
+        QCOMPARE(ear.TakeSaid(), QStringList("solo lectura"));
+        Box("Text1").SetFocus();
+        Type("L"); // shared: the box gets it too
+        QCOMPARE(Box("Text1").Text(), "Luno");
+    }
+
     void a_message_to_a_window_in_the_background_waits_for_it_and_keeps_no_other_silent()
     {
         Open();
@@ -357,47 +544,6 @@ private slots:
         Open();
         Press(Qt::Key_F1);
         QCOMPARE(clicked, 1);
-    }
-
-    void an_alt_that_comes_again_does_not_lead_to_the_menus_data()
-    {
-        QTest::addColumn<bool>("beforeItsRelease");
-        QTest::addColumn<Qt::Key>("letter");
-        QTest::addColumn<QString>("focus");
-        QTest::addRow("after its release, access key") << false << Qt::Key_C << "Command2(0)";
-        QTest::addRow("after its release, any letter") << false << Qt::Key_X << "Text1(0)";
-        QTest::addRow("before its release, access key") << true << Qt::Key_C << "Command2(0)";
-        QTest::addRow("before its release, any letter") << true << Qt::Key_X << "Text1(0)";
-    }
-    void an_alt_that_comes_again_does_not_lead_to_the_menus()
-    {
-        QFETCH(bool, beforeItsRelease);
-        QFETCH(Qt::Key, letter);
-        QFETCH(QString, focus);
-        Open();
-        Child<QWidget>(*m_form, "Text1(0)").setFocus();
-        const auto finger = [this](QEvent::Type type, Qt::Key key) {
-            QWindowSystemInterface::handleKeyEvent<QWindowSystemInterface::SynchronousDelivery>(
-                m_form->windowHandle(), type, key, Qt::AltModifier);
-        };
-        const auto again = [this](QEvent::Type type) {
-            QKeyEvent event(type, Qt::Key_Alt, Qt::AltModifier);
-            QCoreApplication::sendEvent(m_form->windowHandle(), &event);
-        };
-        // As they come with a screen reader on: the finger's, and at some time the Alt once more.
-        finger(QEvent::KeyPress, Qt::Key_Alt);
-        finger(QEvent::KeyPress, letter);
-        if (beforeItsRelease) {
-            again(QEvent::KeyPress);
-            finger(QEvent::KeyRelease, Qt::Key_Alt);
-        } else {
-            finger(QEvent::KeyRelease, Qt::Key_Alt);
-            again(QEvent::KeyPress);
-        }
-        again(QEvent::KeyRelease);
-        finger(QEvent::KeyRelease, letter);
-        QCOMPARE(Focus(), focus);
-        QVERIFY(m_form->menuBar()->activeAction() == nullptr);
     }
 
     void the_access_key_of_a_menu_opens_it()

@@ -1,3 +1,4 @@
+#include "Accessible.h"
 #include "SampleForm.h"
 #include "Silence.h"
 #include "Support.h"
@@ -376,6 +377,98 @@ private slots:
         QAccessible::updateAccessibility(&event);
         QAccessible::installUpdateHandler(previous);
         QVERIFY(heard);
+    }
+
+    void a_text_repeated_with_a_blank_is_drawn_as_it_was()
+    {
+        auto& box = m_form->The<ui::TextBox>("Text3");
+        QWidget& widget = box.Widget();
+        m_form->The<ui::Button>("CbUno").SetFocus();
+        const auto picture = [&](const std::string& text) {
+            box.Text(text);
+            return widget.grab().toImage();
+        };
+        // The rows of the picture that are not all of one colour, apart from the edge.
+        const auto rows = [](const QImage& image) {
+            QList<int> written;
+            for (int y = 2; y < image.height() - 2; ++y) {
+                for (int x = 2; x < image.width() - 2; ++x) {
+                    if (image.pixel(x, y) != image.pixel(2, 2)) {
+                        written += y;
+                        break;
+                    }
+                }
+            }
+            return written;
+        };
+        const std::string verdict = "Resultado incorrecto";
+        QSet<qsizetype> heights;
+        for (int width = 50; width < 200; ++width) {
+            widget.resize(width, 36);
+            const QImage plain = picture(verdict);
+            QCOMPARE(picture(verdict + " "), plain);
+            QCOMPARE(rows(picture(" " + verdict)), rows(plain));
+            heights.insert(rows(plain).size());
+        }
+        QVERIFY(heights.size() > 2); // on one line and on two, in several sizes
+    }
+
+    void whatever_a_reader_asks_of_a_text_is_answered_data()
+    {
+        QTest::addColumn<QString>("text");
+        for (const char* text : {"", "7", "35", "+", "   ", " a ", "tres cuartos+dos cuartos= "}) {
+            QTest::addRow("\"%s\"", text) << QString(text);
+        }
+    }
+    void whatever_a_reader_asks_of_a_text_is_answered()
+    {
+        QFETCH(QString, text);
+        Editable().Text(text.toStdString());
+        const auto& box = *QAccessible::queryAccessibleInterface(&Editable().Widget())->textInterface();
+        const auto length = static_cast<int>(text.size());
+        int start = 0;
+        int end = 0;
+        for (const auto boundary :
+             {QAccessible::CharBoundary, QAccessible::WordBoundary, QAccessible::SentenceBoundary,
+              QAccessible::ParagraphBoundary, QAccessible::LineBoundary, QAccessible::NoBoundary}) {
+            for (int offset = -1; offset <= length + 1; ++offset) {
+                for (const auto ask :
+                     {&QAccessibleTextInterface::textBeforeOffset, &QAccessibleTextInterface::textAtOffset,
+                      &QAccessibleTextInterface::textAfterOffset}) {
+                    const QString answer = (box.*ask)(offset, boundary, &start, &end);
+                    QVERIFY2(text.contains(answer), qPrintable(answer));
+                }
+            }
+        }
+    }
+
+    void a_reader_writes_into_a_box_that_is_open_and_into_no_other()
+    {
+        const auto write = [](const ui::TextBox& box) {
+            QAccessible::queryAccessibleInterface(&box.Widget())->setText(QAccessible::Value, "siete");
+            return box.Text();
+        };
+        QCOMPARE(write(Editable()), std::string("siete"));
+        QCOMPARE(write(Locked()), std::string("dos"));
+    }
+
+    void a_reader_learns_the_word_of_the_caret()
+    {
+        Editable().Text("tres cuartos de 35");
+        QAccessibleTextInterface* box = QAccessible::queryAccessibleInterface(&Editable().Widget())->textInterface();
+        const auto word = [box](int offset) {
+            int start = 0;
+            int end = 0;
+            const QString answer = box->textAtOffset(offset, QAccessible::WordBoundary, &start, &end);
+            return QString("%1 %2-%3").arg(answer.trimmed()).arg(start).arg(end);
+        };
+        for (const int offset : {0, 2}) {
+            QCOMPARE(word(offset), "tres 0-4");
+        }
+        QCOMPARE(word(5), "cuartos 5-12");
+        QCOMPARE(word(14), "de 13-15");
+        QCOMPARE(word(17), "35 16-18");
+        QCOMPARE(word(18), "35 16-18"); // behind the last letter
     }
 
     void a_silent_box_can_be_announced()
