@@ -115,7 +115,7 @@ void Form1::MnuAce_Click()
 {
     ui::MsgBox("Kelvora: ejercicios de fracciones.\r\n"
                "Autores: el equipo de Kelvora.\r\n"
-               "Contacto: el repositorio del proyecto, en sus incidencias.\r\n"
+               "Contacto: el apartado «Ayuda» del manual de Kelvora.\r\n"
                "Versión " KELVORA_VERSION ".");
 }
 

@@ -42,6 +42,7 @@ constexpr ui::ControlDesign controles[]{
     {.name = "Text1",
      .text = "CALCULA",
      .says = "Instrucciones",
+     .keys = "F4 dice el marcador.",
      .place = {1000, 100, 3000, 500},
      .tab = 0,
      .alignment = Alignment::Center},
@@ -91,6 +92,7 @@ constexpr ui::ControlDesign controles[]{
      .says = "Marcador",
      .place = {1000, 7000, 3000, 495},
      .tab = 13,
+     .speaking = Speaking::Score,
      .points = 10.5},
 };
 

@@ -25,6 +25,7 @@ constexpr ui::ControlDesign controles[]{
     {.name = "TbInstruc",
      .text = "Realiza la descomposición en factores primos",
      .says = "Instrucciones",
+     .keys = "F3 repite el ejercicio. F4 dice el marcador.",
      .place = {966, 300, 6000, 500},
      .tab = 0,
      .font = "MS Sans Serif"},
@@ -66,6 +67,7 @@ constexpr ui::ControlDesign controles[]{
      .says = "Marcador",
      .place = {4000, 7150, 3000, 480},
      .tab = 10,
+     .speaking = ui::Speaking::Score,
      .points = 10.5},
 };
 
@@ -108,6 +110,11 @@ void FormFactores::Form_Load()
     ui::Randomize(ui::TimerSeed());
     SortearValor(100);
     LeerValor();
+}
+
+std::string FormFactores::Exercise() const
+{
+    return lenguaje::EnLetrasSolo(TbValor.Number());
 }
 
 void FormFactores::Command1_Click()
@@ -217,6 +224,7 @@ void FormFactores::MnuOpcInt_Click()
     Valor = Entero16::Redondeado(numero);
     TbValor.Text(Valor.Valor());
     NuevaEscalera();
+    TellExercise();
 }
 
 void FormFactores::MnuOpcSal_Click()
@@ -285,6 +293,7 @@ void FormFactores::Continuar()
     TbValor.SelectAll();
     Borrar();
     puntuable = true;
+    TellExercise();
 }
 
 void FormFactores::Borrar()

@@ -20,6 +20,7 @@ public:
 
 private:
     void Form_Load() override;
+    std::string Exercise() const override;
     void Command1_Click();
     void Command2_Click(int Index);
     ui::KeyResult TbDesco_KeyDown(int KeyCode);

@@ -53,6 +53,7 @@ constexpr ui::ControlDesign fijos[]{
      .name = "Text1",
      .text = "Expresa con una fracción la parte que representa cada color\r\n",
      .says = "Instrucciones",
+     .keys = "L repite el ejercicio. F4 dice el marcador.",
      .place = {250, 200, 4500, 800},
      .tab = 0},
     {.kind = Picture, .name = "Picture1", .place = {5100, 1200, 3800, 4800}},
@@ -79,7 +80,11 @@ constexpr ui::ControlDesign fijos[]{
     ui::ButtonDesign("Command2", 0, "&Continuar", {1750, 4100, 1500, 350}, 9, Color::Cyan),
     ui::ButtonDesign("Command2", 1, "&Borrar", {250, 4100, 1500, 350}, 10, Color::Green),
     ui::ButtonDesign("Command2", 2, "&Ver solución", {3250, 4100, 1500, 350}, 11, Color::Red),
-    {.kind = Label, .name = "Label2", .text = "Ejercicios: 0. Errores: 0.", .place = {250, 4700, 4500, 350}},
+    {.kind = Label,
+     .name = "Label2",
+     .text = "Ejercicios: 0. Errores: 0.",
+     .place = {250, 4700, 4500, 350},
+     .speaking = Speaking::Score},
     {.kind = Label, .name = "Label1", .place = {250, 5200, 4500, 700}, .speaking = Speaking::Spoken},
 };
 
@@ -121,11 +126,12 @@ void FormFichas::Form_Load()
 
 KeyResult FormFichas::Form_KeyDown(int KeyCode, int)
 {
-    if (KeyCode == ui::KeyCode::L) {
-        LetrasVisibles = !LetrasVisibles;
-        DibujarFichas(false);
+    if (KeyCode != ui::KeyCode::L) {
+        return KeyResult::Pass;
     }
-    return KeyResult::Pass;
+    LetrasVisibles = !LetrasVisibles;
+    DibujarFichas(false);
+    return KeyResult::Share;
 }
 
 void FormFichas::Command1_Click()

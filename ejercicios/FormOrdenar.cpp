@@ -39,6 +39,7 @@ constexpr ui::ControlDesign controles[]{
      .text = "Ordena estas fracciones de menor a mayor\r\n"
              "Pulsa sobre una fracción para moverla hacia la izquierda \r\n",
      .says = "Instrucciones",
+     .keys = "F3 repite el ejercicio.",
      .place = {300, 200, 6600, 800},
      .tab = 0,
      .font = "Arial Narrow"},
@@ -103,6 +104,12 @@ void FormOrdenar::Form_Load()
     NuevaOrdenacion();
 }
 
+// The four from left to right.
+std::string FormOrdenar::Exercise() const
+{
+    return EnPalabras(0) + ", " + EnPalabras(1) + ", " + EnPalabras(2) + ", " + EnPalabras(3);
+}
+
 void FormOrdenar::Command1_Click(int Index)
 {
     if (Index == 0) {
@@ -113,6 +120,8 @@ void FormOrdenar::Command1_Click(int Index)
     std::swap(Numeradores.at(posicion), Numeradores.at(posicion - 1));
     std::swap(Denominadores.at(posicion), Denominadores.at(posicion - 1));
     MostrarFracciones();
+    // In place of the fraction that stands on the button now.
+    Tell(EnPalabras(Index - 1) + ", posición " + std::to_string(Index) + " de 4");
 }
 
 void FormOrdenar::CBHecho_Click()
@@ -127,6 +136,7 @@ void FormOrdenar::Command2_Click(int Index)
 {
     constexpr std::array acciones{&FormOrdenar::NuevaOrdenacion, &FormOrdenar::Borrar, &FormOrdenar::VerSolucion};
     (this->*acciones.at(static_cast<std::size_t>(Index)))();
+    TellExercise();
 }
 
 void FormOrdenar::NuevaOrdenacion()
@@ -149,8 +159,14 @@ void FormOrdenar::MostrarFracciones()
         const int numerador = Numeradores.at(static_cast<std::size_t>(button.Index())).Valor();
         const int denominador = Denominadores.at(static_cast<std::size_t>(button.Index())).Valor();
         button.Caption(std::to_string(numerador) + "\r\n-\r\n" + std::to_string(denominador));
-        button.Says(lenguaje::FraccionEnLetras(numerador, denominador, numerador == 1, lenguaje::Variante::Base));
+        button.Says(EnPalabras(button.Index()));
     }
+}
+
+std::string FormOrdenar::EnPalabras(int posicion) const
+{
+    const auto i = static_cast<std::size_t>(posicion);
+    return lenguaje::FraccionEnLetras(Numeradores.at(i).Valor(), Denominadores.at(i).Valor());
 }
 
 // Of two fractions of one numerator, that with the larger denominator is the smaller one.

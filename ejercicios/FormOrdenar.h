@@ -18,12 +18,14 @@ private:
     using Cuatro = std::array<numeros::Entero16, 4>;
 
     void Form_Load() override;
+    std::string Exercise() const override;
     void Command1_Click(int Index);
     void CBHecho_Click();
     void Command2_Click(int Index);
 
     void NuevaOrdenacion();
     void MostrarFracciones();
+    std::string EnPalabras(int posicion) const;
     bool EstanOrdenadas() const;
     void Borrar();
     void VerSolucion();

@@ -63,6 +63,7 @@ constexpr ui::ControlDesign fijos[]{
      .text = "Escribe el número de partes a realizar y colorea las \r\n"
              "partes necesarias haciendo click en ellas.\r\n",
      .says = "Instrucciones",
+     .keys = "F4 dice el marcador.",
      .place = {250, 100, 6000, 700},
      .tab = 0},
     Cifra(0, "Numerador", 900, 1),
@@ -102,7 +103,8 @@ constexpr ui::ControlDesign fijos[]{
      .text = "Ejercicios:  0; Errores:  0",
      .says = "Marcador",
      .place = {1750, 7500, 3000, 495},
-     .tab = 25},
+     .tab = 25,
+     .speaking = Speaking::Score},
 };
 
 constexpr auto controles = [] {
@@ -171,6 +173,7 @@ void FormRepresentacion::CbParte_Click(int Index)
     PonerParte(Index, verde);
     PartesColoreadas += verde ? 1 : -1;
     Text4[1].Text(PartesColoreadas.Valor());
+    CbParte[Index].SayWith("partes coloreadas: " + Text4[1].Text());
 }
 
 // Only the two boxes are looked at, not which parts are red.
@@ -312,7 +315,7 @@ void FormRepresentacion::VerSolucion()
 
 std::string FormRepresentacion::NumeradorEnLetras() const
 {
-    return Numerador == 1 ? "uno" : lenguaje::EnLetras(Numerador.Valor(), false, Variante::Entera);
+    return lenguaje::EnLetrasSolo(Numerador.Valor());
 }
 
 std::string FormRepresentacion::DenominadorEnLetras() const

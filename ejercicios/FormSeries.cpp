@@ -2,6 +2,7 @@
 
 #include "Cifras.h"
 #include "Keys.h"
+#include "Lectura.h"
 #include "Random.h"
 
 #include <algorithm>
@@ -39,6 +40,7 @@ constexpr ui::ControlDesign fijos[]{
     {.name = "TbInstruc",
      .text = "Completa la serie",
      .says = "Instrucciones",
+     .keys = "F3 repite el ejercicio. F4 dice el marcador.",
      .place = {3500, 200, 5000, 465},
      .tab = 0,
      .alignment = Alignment::Center,
@@ -60,7 +62,8 @@ constexpr ui::ControlDesign fijos[]{
      .text = "Ejercicios:  0; Errores:  0",
      .says = "Marcador",
      .place = {0, 5300, 3000, 495},
-     .tab = 22},
+     .tab = 22,
+     .speaking = ui::Speaking::Score},
 };
 
 constexpr auto controles = [] {
@@ -169,6 +172,15 @@ void FormSeries::Form_Load()
     NuevaSerie(); // of level 1, so that there is one
 }
 
+std::string FormSeries::Exercise() const
+{
+    std::string texto;
+    for (int i = 0; i < PosicionHueco.Valor(); ++i) {
+        texto += (i == 0 ? "" : ", ") + EnPalabras(i);
+    }
+    return texto + "; falta el término " + std::to_string(PosicionHueco.Valor() + 1);
+}
+
 // The term itself is asked for, not its value.
 void FormSeries::Command1_Click()
 {
@@ -234,6 +246,7 @@ void FormSeries::MnuOpcTipLis_Click(int Index)
     MnuOpcTipLis[Index].Check();
     SoloSeleccionado = Index == 0;
     NuevaSerie();
+    TellExercise();
     Text1[PosicionHueco.Valor()].SetFocus();
 }
 
@@ -312,11 +325,17 @@ void FormSeries::MostrarSerie(int subnivel)
     }
 }
 
+std::string FormSeries::EnPalabras(int termino) const
+{
+    return lenguaje::FraccionEnLetras(NumeradoresSerie.at(termino).Valor(), DenominadoresSerie.at(termino).Valor());
+}
+
 void FormSeries::Continuar()
 {
     Text3.Text("");
     solucionVista = false;
     NuevaSerie();
+    TellExercise(); // also where it is the old one, or the key would seem to have failed
 }
 
 void FormSeries::Borrar()
@@ -332,6 +351,7 @@ void FormSeries::VerSolucion()
     Text1[k].Text(NumeradoresSerie.at(k).Valor());
     Text2[k].Text(DenominadoresSerie.at(k).Valor());
     solucionVista = true;
+    Tell(EnPalabras(k));
 }
 
 void FormSeries::Proteger(ui::TextBox& termino, const Serie& serie) const

@@ -17,6 +17,7 @@ public:
 
 private:
     void Form_Load() override;
+    std::string Exercise() const override;
     void Command1_Click();
     void Command2_Click(int Index);
     void Text1_Change(int Index);
@@ -30,6 +31,7 @@ private:
     void NuevaSerie();
     void GenerarSerie(int nivel, int subnivel);
     void MostrarSerie(int subnivel);
+    std::string EnPalabras(int termino) const;
     void Continuar();
     void Borrar();
     void VerSolucion();

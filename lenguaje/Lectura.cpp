@@ -7,6 +7,11 @@ std::string EnLetras(double valor, bool esDenominador, Variante variante)
     return NumeroEnLetras(valor, esDenominador, variante);
 }
 
+std::string EnLetrasSolo(double valor)
+{
+    return valor == 1 ? "uno" : EnLetras(valor, false, Variante::ConMenos);
+}
+
 std::string FraccionEnLetras(double numerador, double denominador, bool singular, Variante variante)
 {
     std::string texto = EnLetras(numerador, false, variante);
@@ -16,6 +21,11 @@ std::string FraccionEnLetras(double numerador, double denominador, bool singular
         texto += 's';
     }
     return texto;
+}
+
+std::string FraccionEnLetras(int numerador, int denominador)
+{
+    return FraccionEnLetras(numerador, denominador, numerador == 1, Variante::Base);
 }
 
 std::string ConBlancoSiRepite(std::string texto, std::string_view contenido)

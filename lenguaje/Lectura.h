@@ -11,8 +11,14 @@ namespace lenguaje {
 // `valor` in words, as a denominator or not.
 std::string EnLetras(double valor, bool esDenominador, Variante variante);
 
+// `valor` in words where no noun follows: 1 is "uno".
+std::string EnLetrasSolo(double valor);
+
 // "tres cuartos", "un medio": numerator and denominator in words, with an "s" behind unless `singular`.
 std::string FraccionEnLetras(double numerador, double denominador, bool singular, Variante variante);
+
+// The same of whole numbers as the exercises give them: the plural goes by the numerator.
+std::string FraccionEnLetras(int numerador, int denominador);
 
 // `texto`, with one blank behind where the box that is to receive it holds exactly that text already.
 std::string ConBlancoSiRepite(std::string texto, std::string_view contenido);

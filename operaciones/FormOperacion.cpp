@@ -86,6 +86,7 @@ constexpr ui::ControlDesign controles[]{
      .says = "Marcador",
      .place = {900, 4500, 3000, 495},
      .tab = 14,
+     .speaking = Speaking::Score,
      .points = 10.5},
 };
 
@@ -97,7 +98,8 @@ FormOperacion::FormOperacion(const Operacion& operacion, std::span<const ui::Men
             .width = 4885,
             .height = 5200,
             .controls = controles,
-            .menus = menus}),
+            .menus = menus,
+            .keys = "F4 dice el marcador."}),
       m_operacion(operacion)
 {
     Text2[0].Text(operacion.signo);

@@ -21,8 +21,12 @@ Fraccion FormProducto::CalcularSolucion() const
 
 ui::KeyResult FormProducto::Text1_KeyPress(int Index, int KeyAscii)
 {
+    const bool hayVeredicto = !Text3.Text().empty();
     Text3.Text("");
-    return Index > 3 ? FormOperacion::Text1_KeyPress(Index, KeyAscii) : ui::KeyResult::Pass;
+    if (Index > 3) {
+        return FormOperacion::Text1_KeyPress(Index, KeyAscii);
+    }
+    return hayVeredicto ? ui::KeyResult::Share : ui::KeyResult::Pass;
 }
 
 } // namespace operaciones

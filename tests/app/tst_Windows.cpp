@@ -536,6 +536,7 @@ private slots:
                     flags = Qt::AlignLeft | Qt::TextWordWrap;
                 } else if (const auto* box = qobject_cast<QLineEdit*>(widget)) {
                     flags = Qt::AlignLeft | (box->isReadOnly() ? Qt::TextWordWrap : Qt::TextSingleLine);
+                    text = text.trimmed(); // blanks leave no ink
                 }
                 if (!widget->isVisible() || text.trimmed().isEmpty()) {
                     continue;

@@ -318,7 +318,7 @@ private slots:
         Box("TbTexto").setFocus();
         Type("7");
         QCOMPARE(Text("Text7"), "Resultado incorrecto");
-        QCOMPARE(m_ear->TakeSaid(), QStringList()); // emptying says nothing
+        QCOMPARE(m_ear->TakeSaid(), QStringList("solo lectura")); // emptying has said nothing
     }
 
     void enter_checks_in_the_answer_alone()

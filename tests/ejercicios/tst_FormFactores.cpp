@@ -1,5 +1,7 @@
+#include "Accessible.h"
 #include "Escalera.h"
 #include "FormFactores.h"
+#include "Lectura.h"
 #include "Screen.h"
 
 #include <QClipboard>
@@ -83,11 +85,26 @@ private:
         if (message.isEmpty()) {
             check();
         } else {
-            WithDialog(check, Message(message));
+            QStringList told;
+            const DialogAnswer close = Message(message);
+            WithDialog(check, [&](QWidget& dialog) {
+                auto& label = const_cast<QLabel&>(Child<QLabel>(dialog, "qt_msgbox_label"));
+                const QString name = QAccessible::queryAccessibleInterface(&label)->text(QAccessible::Name);
+                if (name != label.text()) { // with the text, where it is not told on its own
+                    told += name.left(name.size() - label.text().size() - 2);
+                }
+                close(dialog);
+            });
             Activate();
+            return m_ear->TakeSaid() + told;
         }
         return m_ear->TakeSaid();
     }
+
+    QString ValueInWords() const { return QString::fromStdString(lenguaje::EnLetrasSolo(Text("TbValor").toInt())); }
+
+    // As it is told: newer readers get it with the text of the box, in which a blank has no use.
+    static QString Told(const QString& verdict) { return ui::boxesCutMessagesOff ? verdict.trimmed() : verdict; }
 
 private slots:
     void init()
@@ -102,7 +119,7 @@ private slots:
     void opens_with_an_empty_ladder_and_a_value()
     {
         QCOMPARE(m_form->windowTitle(), "DESCOMPOSICIÓN EN FACTORES PRIMOS");
-        QCOMPARE(Focus(), "TbInstruc");
+        QCOMPARE(m_ear->Take(), QStringList({"FOCUS TbInstruc", "SAY " + ValueInWords()}));
         QCOMPARE(Text("TbInstruc"), "Realiza la descomposición en factores primos");
         QCOMPARE(Rows(), QStringList(15, emptyRow) + QStringList(""));
         QVERIFY(Text("TbValor").toInt() >= 1 && Text("TbValor").toInt() <= 100);
@@ -219,12 +236,56 @@ private slots:
         QCOMPARE(Text("TbValor"), value);
         QCOMPARE(Rows(), value == "77" ? rows : QStringList(15, emptyRow) + QStringList(""));
         QCOMPARE(Text("TbFactores"), "7 ");
+        m_ear->Take();
         Activate();
+        QCOMPARE(m_ear->TakeSaid(), value == "77" ? QStringList() : QStringList(ValueInWords()));
         Box("Text1").setFocus();
         Press(Qt::Key_Tab); // which puts the value of the exercise there
         QCOMPARE(Text("Text1"), value);
         Verdict("7", {"7"});
         QCOMPARE(Text("tbResultados"), "Ejercicios:  0; Errores:  0");
+    }
+
+    void the_value_is_told_in_words_data()
+    {
+        QTest::addColumn<QString>("value");
+        QTest::addColumn<QString>("words");
+        QTest::addRow("1") << "1"
+                           << "uno";
+        QTest::addRow("76") << "76"
+                            << "setenta y seis";
+        QTest::addRow("1000") << "1000"
+                              << "mil ";
+        QTest::addRow("none") << ""
+                              << "cero";
+        QTest::addRow("negative") << "-12"
+                                  << "menos doce";
+    }
+    void the_value_is_told_in_words()
+    {
+        QFETCH(QString, value);
+        QFETCH(QString, words);
+        SetValue(value);
+        for (const char* name : {"TbInstruc", "TbValor", "TbDesco", "TbFactores", "Command1", "Command2(2)"}) {
+            Child<QWidget>(*m_form, name).setFocus();
+            m_ear->Take();
+            Press(Qt::Key_F3);
+            QCOMPARE(m_ear->Take(), QStringList("SAY " + words));
+            QCOMPARE(Focus(), name);
+        }
+        QCOMPARE(Text("Text1"), "");
+    }
+
+    void continuing_tells_the_new_value()
+    {
+        Verdict("13", {"13"});
+        Box("Text1").setFocus(); // which puts the old value into itself when the focus goes
+        m_ear->Take();
+        Press(Qt::Key_C, Qt::AltModifier);
+        QCOMPARE(m_ear->Take(), QStringList({"FOCUS Command2(0)", "FOCUS TbDesco", "SAY " + ValueInWords()}));
+        QCOMPARE(Text("Text1"), "13");
+        Press(Qt::Key_B, Qt::AltModifier);
+        QCOMPARE(m_ear->TakeSaid(), QStringList("Escalera |"));
     }
 
     void the_value_is_selected_when_the_focus_comes()
@@ -393,7 +454,8 @@ private slots:
     {
         for (int i = 1; i <= 3; ++i) {
             const QString verdict = i == 2 ? " Resultado incorrecto" : "Resultado incorrecto";
-            QCOMPARE(Verdict("13", {"2", "2", "3"}, WrongProduct(12, 13)), QStringList(verdict));
+            QCOMPARE(Verdict("13", {"2", "2", "3"}, WrongProduct(12, 13)), QStringList(Told(verdict)));
+            QCOMPARE(Text("Text1"), verdict);
             QCOMPARE(Text("tbResultados"), QString("Ejercicios:  %1; Errores:  %1").arg(i));
         }
         QCOMPARE(Verdict("13", {"13"}), QStringList("Resultado correcto"));
@@ -407,21 +469,30 @@ private slots:
         m_ear->Take();
         WithDialog([] { Press(Qt::Key_H, Qt::AltModifier); },
                    [this](QWidget& dialog) {
-                       QCOMPARE(Text("Text1"), "Resultado incorrecto");
+                       const QString verdict = "Resultado incorrecto";
+                       const QStringList heard = Ear::TakeSoFar();
+                       QCOMPARE(heard.mid(0, heard.size() - 1), // the last is the box's button
+                                QStringList("FOCUS Command1") +
+                                    (ui::boxesCutMessagesOff ? QStringList() : QStringList("SAY " + verdict)));
+                       QVERIFY(heard.last().startsWith("FOCUS "));
+                       auto& label = const_cast<QLabel&>(Child<QLabel>(dialog, "qt_msgbox_label"));
+                       const QString told = QAccessible::queryAccessibleInterface(&label)->text(QAccessible::Name);
+                       QCOMPARE(told, (ui::boxesCutMessagesOff ? verdict + ". " : QString()) + WrongProduct(1, 13));
+                       QCOMPARE(Text("Text1"), verdict);
                        QCOMPARE(Text("tbResultados"), "Ejercicios:  0; Errores:  0");
                        QTest::keyClick(&dialog, Qt::Key_Return);
                    });
         QCOMPARE(Text("tbResultados"), "Ejercicios:  1; Errores:  1");
         Activate();
         QCOMPARE(Focus(), "Command1");
-        QCOMPARE(m_ear->TakeSaid(), QStringList("Resultado incorrecto"));
+        QCOMPARE(m_ear->TakeSaid(), QStringList()); // it was heard before the box, and is not again
     }
 
     void factors_that_are_no_primes_are_told()
     {
         QCOMPARE(Verdict("12", {"4", "3"}, WrongFactors("3, 4", "2, 2, 3")), QStringList("Resultado incorrecto"));
         QCOMPARE(Text("tbResultados"), "Ejercicios:  1; Errores:  1");
-        QCOMPARE(Verdict("12", {"12"}, WrongFactors("12", "2, 2, 3")), QStringList(" Resultado incorrecto"));
+        QCOMPARE(Verdict("12", {"12"}, WrongFactors("12", "2, 2, 3")), QStringList(Told(" Resultado incorrecto")));
     }
 
     void factors_are_right_in_any_order_and_dividends_are_not_looked_at()
@@ -436,7 +507,7 @@ private slots:
     {
         QCOMPARE(Verdict("1", {}), QStringList("Resultado correcto"));
         QCOMPARE(Verdict("2", {}, WrongProduct(1, 2)), QStringList("Resultado incorrecto"));
-        QCOMPARE(Verdict("-3", {}, WrongProduct(1, -3)), QStringList(" Resultado incorrecto"));
+        QCOMPARE(Verdict("-3", {}, WrongProduct(1, -3)), QStringList(Told(" Resultado incorrecto")));
         QCOMPARE(Verdict("", {}, WrongProduct(1, 0)), QStringList("Resultado incorrecto"));
     }
 

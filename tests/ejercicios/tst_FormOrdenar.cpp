@@ -1,4 +1,3 @@
-#include "Accessible.h"
 #include "FormOrdenar.h"
 #include "Lectura.h"
 #include "Screen.h"
@@ -106,6 +105,16 @@ private:
             lenguaje::FraccionEnLetras(numerator, denominator, numerator == 1, lenguaje::Variante::Base));
     }
 
+    QString RowInWords() const
+    {
+        const Row row = Shown();
+        QStringList words;
+        for (int i = 0; i < 4; ++i) {
+            words += Words(row.numerators[i], row.denominators[i]);
+        }
+        return words.join(", ");
+    }
+
 private slots:
     void init()
     {
@@ -116,7 +125,7 @@ private slots:
 
     void opens_with_its_texts()
     {
-        QCOMPARE(m_ear->Take(), QStringList("FOCUS Text1"));
+        QCOMPARE(m_ear->Take(), QStringList({"FOCUS Text1", "SAY " + RowInWords()}));
         QCOMPARE(Text("TBMensajes"), "");
         QCOMPARE(Text("TbResultados"), "Ejercicios: 0; Errores: 0");
         QVERIFY(!Shown().Increasing());
@@ -159,8 +168,12 @@ private slots:
         const QString message = Text("TBMensajes");
         m_ear->Take();
         Press(Qt::Key_C, Qt::AltModifier);
-        QCOMPARE(m_ear->Take(), QStringList({"FOCUS Command2(0)", "FOCUS Command1(0)"}));
+        QCOMPARE(m_ear->Take(), QStringList({"FOCUS Command2(0)", "FOCUS Command1(0)", "SAY " + RowInWords()}));
         QCOMPARE(Text("TBMensajes"), message);
+        Fraction(2).setFocus();
+        m_ear->Take();
+        Button("Command2(0)").click(); // as a reader's own command does; the new names of the buttons are not told
+        QCOMPARE(m_ear->Take(), QStringList({"FOCUS Command1(0)", "SAY " + RowInWords()}));
     }
 
     void a_fraction_says_itself_in_words()
@@ -185,8 +198,8 @@ private slots:
             Press(index == 1 ? Qt::Key_Return : Qt::Key_Space);
             QCOMPARE(Shown(), expected);
             QCOMPARE(Focus(), Fraction(index).objectName());
-            const QString standsThere = Words(expected.numerators[index], expected.denominators[index]);
-            QCOMPARE(m_ear->Take(), ui::newNamesAreRead ? QStringList() : QStringList("SAY " + standsThere));
+            const QString moved = Words(expected.numerators[index - 1], expected.denominators[index - 1]);
+            QCOMPARE(m_ear->Take(), QStringList(QString("SAY %1, posición %2 de 4").arg(moved).arg(index)));
         }
     }
 
@@ -249,11 +262,38 @@ private slots:
             Button("Command2(2)").setFocus();
             m_ear->Take();
             Press(Qt::Key_Return);
-            QCOMPARE(m_ear->Take(), QStringList());
+            QCOMPARE(m_ear->Take(), QStringList("SAY " + RowInWords()));
             QCOMPARE(Shown(), sorted);
             QVERIFY(Shown().Increasing());
             QCOMPARE(Focus(), "Command2(2)");
         }
+    }
+
+    void f3_tells_the_row_on_any_control_and_moves_nothing()
+    {
+        Verdict();
+        const QString message = Text("TBMensajes");
+        for (const char* name : {"Text1", "Command1(3)", "CBHecho", "Command2(1)", "TBMensajes", "TbResultados"}) {
+            Child<QWidget>(*m_form, name).setFocus();
+            m_ear->Take();
+            Press(Qt::Key_F3);
+            QCOMPARE(m_ear->Take(), QStringList("SAY " + RowInWords()));
+            QCOMPARE(Focus(), name);
+            Press(Qt::Key_F2);
+            QCOMPARE(m_ear->Take(), QStringList());
+        }
+        QCOMPARE(Text("TBMensajes"), message);
+    }
+
+    void clearing_tells_the_new_order_and_stays_on_its_button()
+    {
+        m_ear->Take();
+        Press(Qt::Key_B, Qt::AltModifier);
+        QCOMPARE(m_ear->Take(), QStringList({"FOCUS Command2(1)", "SAY " + RowInWords()}));
+        Fraction(1).setFocus();
+        m_ear->Take();
+        Button("Command2(1)").click(); // the new name of the button in focus is not told beside it
+        QCOMPARE(m_ear->Take(), QStringList("SAY " + RowInWords()));
     }
 
     void clearing_exchanges_what_is_drawn()

@@ -297,13 +297,26 @@ private slots:
         QCOMPARE(Name("CbParte(2)"), "3 - verde");
     }
 
-    void the_new_caption_of_the_part_in_focus_is_told_once()
+    void a_part_tells_its_new_caption_and_how_many_are_coloured_once()
     {
         Divide("3");
-        Part(1).setFocus();
         m_ear->Take();
-        Press(Qt::Key_Space);
-        QCOMPARE(m_ear->Take(), ui::newNamesAreRead ? QStringList() : QStringList("SAY 2 - rojo"));
+        const auto pressed = [this](int part, const QString& caption, const QString& count) {
+            Part(part).setFocus();
+            m_ear->Take();
+            Press(Qt::Key_Space);
+            const QString name = ui::newNamesAreRead ? QString() : caption + "; ";
+            QCOMPARE(Name(QString("CbParte(%1)").arg(part)), caption);
+            QCOMPARE(m_ear->Take(), QStringList("SAY " + name + "partes coloreadas: " + count));
+        };
+        pressed(1, "2 - rojo", "1");
+        pressed(2, "3 - rojo", "2");
+        pressed(1, "2 - verde", "1");
+        pressed(2, "3 - verde", "0");
+        Button("Command1").setFocus();
+        m_ear->Take();
+        Part(0).click(); // as a reader's own command does
+        QCOMPARE(m_ear->Take(), QStringList("SAY 1 - rojo; partes coloreadas: 1"));
     }
 
     void dividing_says_nothing_of_the_parts()

@@ -1,4 +1,5 @@
 #include "FormSeries.h"
+#include "Lectura.h"
 #include "Screen.h"
 
 #include <algorithm>
@@ -189,6 +190,22 @@ private:
         }
     }
 
+    static QString Words(int numerator, int denominator)
+    {
+        return QString::fromStdString(
+            lenguaje::FraccionEnLetras(numerator, denominator, numerator == 1, lenguaje::Variante::Base));
+    }
+
+    // The series on view as it is to be told.
+    QString InWords() const
+    {
+        QStringList terms;
+        for (int i = 0; i < Blank(); ++i) {
+            terms += Words(Numerators()[i], Denominators()[i]);
+        }
+        return QString("%1; falta el término %2").arg(terms.join(", ")).arg(Blank() + 1);
+    }
+
 private slots:
     void init()
     {
@@ -202,7 +219,7 @@ private slots:
     void opens_with_a_series_of_the_first_level()
     {
         QCOMPARE(m_form->windowTitle(), "Completa la serie");
-        QCOMPARE(m_ear->Take(), QStringList("FOCUS TbInstruc"));
+        QCOMPARE(m_ear->Take(), QStringList({"FOCUS TbInstruc", "SAY " + InWords()}));
         QCOMPARE(Text("TbInstruc"), "Completa la serie");
         QCOMPARE(Blank(), 4);
         QCOMPARE(Numerator(4).text() + Denominator(4).text(), "");
@@ -370,7 +387,54 @@ private slots:
         QCOMPARE(Focus(), "Text1(7)");
         m_ear->Take();
         Choose("MnuOpcTipLis(0)");
-        QCOMPARE(m_ear->Take(), QStringList("FOCUS Text1(4)"));
+        QCOMPARE(m_ear->Take(), QStringList({"FOCUS Text1(4)", "SAY " + InWords()}));
+    }
+
+    // The ear
+
+    void a_series_is_told_term_by_term_data()
+    {
+        QTest::addColumn<int>("grade");
+        for (const int grade : {0, 1, 2, 5, 7}) {
+            QTest::addRow("%d", grade) << grade;
+        }
+    }
+    void a_series_is_told_term_by_term()
+    {
+        QFETCH(int, grade);
+        Choose(QString("MnuOpcDifLis(%1)").arg(grade));
+        QCOMPARE(m_ear->TakeSaid().size(), 1); // the opening; a grade changes nothing yet
+        QSet<QString> told;
+        for (int round = 0; round < 60; ++round) {
+            Button("Command2(1)").setFocus();
+            m_ear->Take();
+            Continue(); // which often keeps the old one, and tells it again
+            const QString blank = QString("FOCUS Text1(%1)").arg(Blank());
+            QCOMPARE(m_ear->Take(), QStringList({blank, "SAY " + InWords()}));
+            told.insert(InWords());
+        }
+        QVERIFY(told.size() > 5);
+    }
+
+    void a_series_is_told_in_these_words()
+    {
+        QCOMPARE(Numerators(), QList<int>({2, 2, 2, 2}));
+        QCOMPARE(Denominators(), QList<int>({3, 5, 7, 9}));
+        QCOMPARE(m_ear->TakeSaid(),
+                 QStringList("dos tercios, dos quintos, dos séptimos, dos novenos; falta el término 5"));
+    }
+
+    void f3_tells_the_series_on_any_control_and_moves_nothing()
+    {
+        Verdict("1", "2");
+        for (const char* name : {"TbInstruc", "Text1(0)", "Text2(4)", "Command1", "Text3", "Command2(2)"}) {
+            Child<QWidget>(*m_form, name).setFocus();
+            m_ear->Take();
+            Press(Qt::Key_F3);
+            QCOMPARE(m_ear->Take(), QStringList("SAY " + InWords()));
+            QCOMPARE(Focus(), name);
+        }
+        QCOMPARE(Text("Text3"), "Respuesta incorrecta");
     }
 
     // Checking
@@ -503,8 +567,8 @@ private slots:
         QCOMPARE(Numerator(4).text() + Denominator(4).text(), "");
         QCOMPARE(Text("Text3"), "Respuesta incorrecta");
         Press(Qt::Key_V, Qt::AltModifier);
-        QCOMPARE(m_ear->Take(), QStringList({"FOCUS Command2(2)", "FOCUS Text1(4)",
-                                             "SAY Numerador del término 5 " + Numerator(4).text()}));
+        const QString solution = Words(Numerator(4).text().toInt(), Denominator(4).text().toInt());
+        QCOMPARE(m_ear->Take(), QStringList({"FOCUS Command2(2)", "FOCUS Text1(4)", "SAY " + solution}));
         QCOMPARE(Text("Text3"), "");
         Verdict("1", "2");
         Press(Qt::Key_C, Qt::AltModifier);

@@ -70,10 +70,16 @@ class Brailled(str):
 
 
 class Perhaps(str):
-    """What may be missing, or be cut off, at its place; the title of a window or box may be followed by its role."""
+    """What may be missing, or be cut off, at its place; the title of a window or box may be followed by its role, and by the
+    keys that it describes."""
+
+    def __new__(cls, text, keys=""):
+        self = super().__new__(cls, text)
+        self.keys = keys
+        return self
 
     def is_said_by(self, text):
-        return text.removesuffix(" [cut]") in [self] + utterances("window", self) + utterances("dialog", self)
+        return text.removesuffix(" [cut]") in [self] + window(self) + window(self, self.keys) + utterances("dialog", self)
 
 
 def brailled(kind, text, braille):
@@ -90,13 +96,16 @@ def said_like(pattern):
     return [re.compile(utterance) for utterance in (["notificación\\.", rf"({pattern})\.?"] if OLD else [rf"({pattern})"])]
 
 
-def window(title):
-    return utterances("window", title)
+def window(title, keys=""):
+    """A window, perhaps with a description."""
+    if not OLD and keys:
+        return [f"{title} marco {keys}"]
+    return utterances("window", title) + ([keys] if keys else [])
 
 
-def window_again(title):
+def window_again(title, keys=""):
     """The window comes back. Orca 48 may take it for the one where it was; see `expect_window`."""
-    return window(title) if OLD else [Perhaps(title)]
+    return window(title, keys) if OLD else [Perhaps(title, keys)]
 
 
 def button(name):
@@ -156,6 +165,7 @@ MARKS = r"[&<>{}]"  # of captions and of the toolkit's own texts
 class Lesson(unittest.TestCase):
     maxDiff = None
     title = "KELVORA"  # of the window where the lesson is
+    keys = ""  # that this window describes
 
     def setUp(self):
         self.session = Session()
@@ -219,7 +229,7 @@ class Lesson(unittest.TestCase):
         """A window has opened by a key. Orca 48 gets keys beside the program and not before it: where it notices the
         key only when the window is there, it takes that for the one where it was, and does not say its name. So the
         reader is asked for it again."""
-        self.expect(window_again(title), *parts)
+        self.expect(window_again(title, self.keys if title == self.title else ""), *parts)
         self.ask_title(title)
 
     def ask_title(self, title):
@@ -250,18 +260,21 @@ class Lesson(unittest.TestCase):
         # Qt selects the text before the box is there, and Orca 43 may hear of that first.
         early = [Perhaps(text) for text in selected(offered)]
         # Between a box and the next the window comes to the front for an instant, which Orca 48 may tell.
-        self.expect(early, utterances("dialog", title) if OLD else [Perhaps(self.title), Perhaps(title)], box)
+        self.expect(early, utterances("dialog", title) if OLD else [Perhaps(self.title, self.keys), Perhaps(title)], box)
         self.ask_title(title)
 
-    def press_return_for_box(self, title, text, answer="Aceptar", behind=()):
+    def press_return_for_box(self, title, text, answer="Aceptar", behind=(), verdict=None):
         """Presses Enter, which opens a message box with the focus on the button `answer`. If Enter chooses from a menu, that
-        closes first, and the reader may have the time to say the window and what has the focus `behind` it."""
+        closes first, and the reader may have the time to say the window and what has the focus `behind` it. A verdict is
+        heard before the text."""
+        announced = said(verdict) if verdict and OLD else []
+        text = f"{verdict}. {text}" if verdict and not OLD else text
         self.session.press("Return")
         self.session.wait_heard(button(answer)[-1])
-        behind = [Perhaps(text) for text in [self.title, *behind]]
+        behind = [Perhaps(self.title, self.keys), Perhaps(self.keys), *map(Perhaps, behind)]
         box = utterances("message", title) + [text] + button(answer)
         if OLD:
-            self.expect(behind, box)
+            self.expect(announced, behind, box)
         else:
             # Orca 48 gets keys beside the program and not before it: the box can be there before the key that opened
             # it has been noticed, and that key then cuts off what had begun to be read. So it is asked where it is.

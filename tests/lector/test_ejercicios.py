@@ -11,6 +11,10 @@ CHARACTERS = {" ": "espacio", "|": "barra vertical" if OLD else "|"}
 NUMBER = re.compile(r"(\d+)\.?")  # the content of a box that is not known
 
 
+SCORE = "F4 dice el marcador."
+REPEAT_AND_SCORE = f"F3 repite el ejercicio. {SCORE}"
+
+
 class ExerciseLesson(Lesson):
     name = title = None
 
@@ -38,7 +42,7 @@ class Cantidad(ExerciseLesson):
     reading = r"(\w+) (\w+?)s?  de (\w+(?: y \w+)?)"
 
     def first_stop(self):
-        return locked("Instrucciones", "CALCULA")
+        return locked("Instrucciones", "CALCULA") + [SCORE]
 
     def result(self, match):
         numerator, part, quantity = match.groups()
@@ -52,6 +56,8 @@ class Cantidad(ExerciseLesson):
         self.press("F1", said(text))
         self.press("Tab", locked("Numerador", f"{CARDINALS.index(match[1])}"))
         self.press("Tab", locked("Denominador", f"{PARTS.index(match[2])}"))
+        self.press("7", echo("7"), said("solo lectura"))
+        self.press("7", echo("7"))
         self.press("Tab", locked("Palabra entre la fracción y la cantidad", "de"))
         self.press("Tab", locked("Cantidad", f"{CARDINALS.index(match[3])}"))
 
@@ -97,7 +103,7 @@ class Representacion(ExerciseLesson):
     reading = r"(\w+) (\w+?)(s?)"
 
     def first_stop(self):
-        return locked("Instrucciones", "Escribe el número de partes a realizar y colorea las ")
+        return locked("Instrucciones", "Escribe el número de partes a realizar y colorea las ") + [SCORE]
 
     def numbers(self, match):
         numerator = 1 if match[1] == "uno" else CARDINALS.index(match[1])
@@ -109,7 +115,9 @@ class Representacion(ExerciseLesson):
         self.press("Tab", locked("Partes coloreadas:", "0"))
         for part in range(1, parts + 1):
             self.press("Tab", button(f"{part} - verde"))
-            self.press("space", [Perhaps(text) for text in echo("espacio")], renamed(f"{part} - rojo"))
+            count = f"partes coloreadas: {part}"
+            told = said(f"{part} - rojo; {count}") if OLD else button(f"{part} - rojo") + said(count)
+            self.press("space", [Perhaps(text) for text in echo("espacio")], told)
 
     def test_a_lesson(self):
         match = self.open_exercise("Instrucciones", rf" ?{self.reading}")
@@ -145,7 +153,7 @@ class Fichas(ExerciseLesson):
         # The first row of the instruction, as far as it goes in the type that there is.
         rows = [text for text in self.session.heard_so_far() if text.startswith("Expresa con una fracción ")]
         self.assertIn(rows[-1].removesuffix(".").strip(), "Expresa con una fracción la parte que representa cada color")
-        return locked("Instrucciones", rows[-1].removesuffix("."))
+        return locked("Instrucciones", rows[-1].removesuffix(".")) + [f"L repite el ejercicio. {SCORE}"]
 
     def answer(self, match):
         """Fills the six boxes from the first one on."""
@@ -174,42 +182,58 @@ class Fichas(ExerciseLesson):
 
 class Ordenar(ExerciseLesson):
     name, title = "Ordenar fracciones", "Ordenar fracciones"
+    reading = ", ".join([r"\w+ \w+"] * 4)
 
     def first_stop(self):
-        return locked("Instrucciones", "Ordena estas fracciones de menor a mayor")
-
-    def hear_fraction(self):
-        """Goes on to the next fraction; its words, numerator and denominator."""
-        match, = self.press("Tab", self.a_fraction())
-        return match[1], CARDINALS.index(match[2]), PARTS.index(match[3])
+        return locked("Instrucciones", "Ordena estas fracciones de menor a mayor") + ["F3 repite el ejercicio."]
 
     @staticmethod
-    def a_fraction():
-        """A button whose fraction is not known."""
-        return [re.compile(r"((\w+) (\w+?)s?)" + re.escape(button("")[0]))]
+    def row(match):
+        """The fractions of a reading from left to right: words, numerator and denominator."""
+        return [(words, CARDINALS.index(words.split()[0]), PARTS.index(re.sub("s$", "", words.split()[1])))
+                for words in match.group().split(", ")]
 
-    def test_a_lesson(self):
-        self.open_screen(PROGRAM, self.name, "Instrucciones")
-        self.expect_window(self.title, self.first_stop())
-        row = [self.hear_fraction() for _ in range(4)]
-        self.press("alt+h", button(row[0][0]), said("Resultado incorrecto"))
+    @staticmethod
+    def is_smaller(one, other):
+        return one[1] * other[2] < other[1] * one[2]
 
-        # Each fraction that is smaller than the one to its left is moved there, and what stands there then is heard.
+    def put_in_order(self, row):
+        """From the first fraction on: moves each that is smaller than the one to its left, and ends on the first again."""
         for _ in range(3):
             for i in range(1, 4):
                 self.press("Tab", button(row[i][0]))
-                if row[i][1] * row[i - 1][2] < row[i - 1][1] * row[i][2]:
+                if self.is_smaller(row[i], row[i - 1]):
                     row[i - 1], row[i] = row[i], row[i - 1]
-                    self.press("Return", renamed(row[i][0]))
+                    # Newer readers read by themselves what stands on the button now.
+                    self.press("Return", [] if OLD else button(row[i][0]), said(f"{row[i - 1][0]}, posición {i} de 4"))
             for i in (2, 1, 0):
                 self.press("shift+Tab", button(row[i][0]))
+
+    def continue_with(self, key):
+        """Goes on to a new exercise. Orca 48 hears of the button's new name and of the focus, and may begin it twice."""
+        self.session.press(key)
+        match = self.hear_match(self.reading)
+        first = button(self.row(match)[0][0])
+        self.expect([] if OLD else [Perhaps(first[0])], first, said(match.group()))
+        return self.row(match)
+
+    def test_a_lesson(self):
+        row = self.row(self.open_exercise("Instrucciones", self.reading))
+        self.press("F3", said(", ".join(words for words, _, _ in row)))
+        self.press("Tab", button(row[0][0]))
+        self.press("alt+h", said("Resultado incorrecto"))  # the focus is back on the first fraction
+        self.put_in_order(row)
         self.press("alt+h", button("Continuar"), said(" Resultado correcto"))
-        self.press("alt+v", button("Ver solución"))
+        self.press("alt+v", button("Ver solución"), said(", ".join(words for words, _, _ in row)))
+
+        match = self.exchange("alt+b", self.reading, button("Borrar"))
+        self.assertCountEqual(self.row(match), row)
+        solution = self.row(self.exchange("alt+v", self.reading, button("Ver solución")))
+        self.assertEqual(solution, row)
         self.press("alt+h", button("Continuar"), said(" Resultado correcto "))
-        # The first fraction of the next exercise. Orca 48 hears of its new name and of the focus, and may begin it twice.
-        self.session.press("Return")
-        name = self.session.wait_heard_match(self.a_fraction()[0])[1]
-        self.expect([] if OLD else [Perhaps(button(name)[0])], button(name))
+        row = self.continue_with("Return")
+        self.put_in_order(row)
+        self.press("alt+h", button("Continuar"), said(" Resultado correcto"))
         self.press("alt+F4", window_again("KELVORA"), button(self.name))
 
 
@@ -244,46 +268,80 @@ class Conversion(ExerciseLesson):
 
 class Series(ExerciseLesson):
     name, title = "Completa la serie", "Completa la serie"
+    reading = r"(\w+(?: y \w+)? \w+(?: y \w+)?, )+\w+(?: y \w+)? \w+(?: y \w+)?; falta el término (\d)"
+
+    def first_stop(self):
+        return locked("Instrucciones", "Completa la serie") + [REPEAT_AND_SCORE]
+
+    @staticmethod
+    def next_term(match):
+        """What comes next after the terms told, whose numerators and denominators each have one step."""
+        terms = []
+        for words in match.group().split(";")[0].split(", "):
+            # Where the words of the numerator end tells only which words there are.
+            numerator, denominator = next(
+                (number, denominator) for number, cardinal in enumerate(CARDINALS)
+                for denominator, part in enumerate(PARTS)
+                if part and f"{cardinal} {part}{'' if number == 1 else 's'}" == words)
+            terms.append((numerator, denominator))
+        return [2 * last - previous for last, previous in zip(terms[-1], terms[-2])]
+
+    def blank(self, match):
+        return int(match[2])
 
     def test_a_lesson(self):
-        self.open_screen(PROGRAM, self.name, "Instrucciones")
-        self.expect_window(self.title, locked("Instrucciones", "Completa la serie"))
-        above, below = [], []
-        for term in range(1, 5):
-            for part, values in (("Numerador", above), ("Denominador", below)):
-                match, = self.press("Tab", editable(f"{part} del término {term}", ""), [NUMBER])
-                values.append(int(match[1]))
-        self.press("7", echo("7"), said(f"{below[3]}"))  # a term that is given stays
-        self.press("Tab", editable("Numerador del término 5", ""))
+        match = self.open_exercise("Instrucciones", self.reading)
+        self.press("F3", said(match.group()))
+        self.press("alt+b", editable("Numerador del término 5", ""))
+        self.press("alt+b", said("Numerador del término 5"))  # where the focus was before
         self.press("Return", said("Respuesta incorrecta"))
-        self.type(f"{2 * above[3] - above[2]}")
+        numerator, denominator = self.next_term(match)
+        self.type(f"{numerator}")
         self.press("Tab", editable("Denominador del término 5", ""))
-        self.type(f"{2 * below[3] - below[2]}")
+        self.type(f"{denominator}")
+        self.press("F4", said("Ejercicios:   0; Errores:  1."))
         self.press("Return", button("Continuar"), said("Respuesta correcta"))
-        self.press("Return", editable("Numerador del término 5", ""))
+        match = self.exchange("Return", self.reading, editable("Numerador del término 5", ""))
+        numerator, denominator = self.next_term(match)
+        self.type(f"{numerator}")
+        self.press("Tab", editable("Denominador del término 5", ""))
+        self.type(f"{denominator}")
+        self.press("Return", button("Continuar"), said("Respuesta correcta"))
+
+        # A term that is given stays.
+        self.press("shift+Tab", locked("Mensajes", "Respuesta correcta"))
+        self.press("shift+Tab", button("Hecho"))
+        self.press("shift+Tab", editable("Denominador del término 5", f"{denominator}"))
+        self.press("shift+Tab", editable("Numerador del término 5", f"{numerator}"))
+        given, = self.press("shift+Tab", editable("Denominador del término 4", ""), [NUMBER])
+        self.press("7", echo("7"), said(given[1]))
 
         # A harder series has its blank one term later, which the solution fills.
         self.press("alt+o", ["Dificultad."])
         self.press("Right", ["1A marcada."])
         self.press("Down", [unchecked("1B")])
         self.press("Down", [unchecked("2A")])
-        self.press("Return", editable("Numerador del término 5", ""))
-        self.press("alt+c", editable("Numerador del término 6", ""))
-        self.press("alt+v", said_like(r"Numerador del término 6 \d+"))
+        self.press("Return", editable("Numerador del término 5", f"{numerator}"))
+        match = self.exchange("alt+c", self.reading, editable("Numerador del término 6", ""))
+        self.assertEqual(match[2], "6")
+        self.press("alt+v", said(fraction(*self.next_term(match))))
         self.press("alt+F4", window_again("KELVORA"), button(self.name))
 
 
 class Factores(ExerciseLesson):
     name, title = "Descomposición en factores primos", "DESCOMPOSICIÓN EN FACTORES PRIMOS"
     empty_row = "     |    "
+    reading = "|".join(["uno"] + CARDINALS)
 
     def ladder(self, row):
         return ["Escalera texto.", row]
 
-    def hear_value(self, key):
-        """Goes to the value by a key; what it is."""
-        match, = self.press(key, editable("Valor", ""), [re.compile(r"(\d+) seleccionado\.")])
-        return int(match[1])
+    def first_stop(self):
+        return locked("Instrucciones", "Realiza la descomposición en factores primos") + [REPEAT_AND_SCORE]
+
+    @staticmethod
+    def value(match):
+        return 1 if match.group() == "uno" else CARDINALS.index(match.group())
 
     def go(self, key, characters):
         """Steps from character to character, hearing each that it comes to."""
@@ -298,19 +356,18 @@ class Factores(ExerciseLesson):
             self.go("Left", " " * len(f"{divisor}"))
 
     def test_a_lesson(self):
-        self.open_screen(PROGRAM, self.name, "Instrucciones")
-        self.expect_window(self.title, locked("Instrucciones", "Realiza la descomposición en factores primos"))
-        value = self.hear_value("Tab")
-        while value == 1:  # which an empty ladder solves
-            self.press("alt+c", self.ladder(self.empty_row))
-            value = self.hear_value("shift+Tab")
-        self.press("Tab", self.ladder(self.empty_row))
+        match = self.open_exercise("Instrucciones", self.reading)
+        self.press("F3", said(match.group()))
+        self.press("alt+b", self.ladder(self.empty_row))
+        while self.value(match) == 1:  # which an empty ladder solves
+            match = self.exchange("alt+c", self.reading, [])
+        value = self.value(match)
 
         self.press("Tab", locked("Factores primos", ""))
         self.press("Tab", button("Hecho"))
         self.press_return_for_box("Kelvora", f"El producto de los factores calculados (1 es distinto del valor inicial "
-                                  f"({value})")
-        self.press("Return", window_again(self.title), button("Hecho"), said("Resultado incorrecto"))
+                                  f"({value})", verdict="Resultado incorrecto")
+        self.press("Return", window_again(self.title), button("Hecho"))
 
         # A bar stays, and what is refused says the row as it is.
         self.press("alt+b", self.ladder(self.empty_row))
@@ -332,14 +389,15 @@ class Factores(ExerciseLesson):
         self.press("Tab", locked("Factores primos", " * ".join(str(d) for d in divisors) + " "))
         self.press("alt+h", button("Continuar"), said("Resultado correcto"))
 
-        self.press("Return", self.ladder(self.empty_row))
+        self.exchange("Return", self.reading, self.ladder(self.empty_row))
+        self.press("F4", said("Ejercicios:  2; Errores:  1"))
         self.press("alt+o", ["Valores."])
         self.press("Right", [unchecked("Hasta 10")])
         self.press("Return", self.ladder(self.empty_row))
         self.session.press("F2")
         self.expect_input("Introducir valor", "Introduzca valor a descomponer: ", "")
         self.type("12")
-        self.press("Return", window_again(self.title), self.ladder(self.empty_row))
+        self.press("Return", window_again(self.title), self.ladder(self.empty_row), said("doce"))
         self.press("alt+v", said("Escalera 12|2"))  # where the focus was before
         self.press("Tab", locked_selected("Factores primos", "2 * 2 * 3 "))
         self.press("alt+F4", window_again("KELVORA"), button(self.name))

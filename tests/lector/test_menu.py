@@ -9,7 +9,7 @@ import test_operaciones
 from pupil import *
 
 CREDITS_TEXT = ("Kelvora: ejercicios de fracciones.|Autores: el equipo de Kelvora.|"
-                f"Contacto: el repositorio del proyecto, en sus incidencias.|Versión {os.environ['VERSION']}.")
+                f"Contacto: el apartado «Ayuda» del manual de Kelvora.|Versión {os.environ['VERSION']}.")
 
 
 class Screens(unittest.TestCase):

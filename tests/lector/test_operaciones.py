@@ -18,6 +18,7 @@ HELP = ("F2: Lee la fracción seleccionada.|F3: Lee la operación completa.|"
 
 class OperationLesson(Lesson):
     name = title = sign = None
+    keys = "F4 dice el marcador."
     alternates = True  # the blank before the reading of the operation
     line = ""  # what the message line holds
 
@@ -73,6 +74,8 @@ class SumLesson(OperationLesson):
         self.press("F3", self.says_operation())
 
         self.press("Escape")  # nothing happens, and there is nothing to say
+        self.press("Alt_L", ["Opciones."])
+        self.press("Alt_L", locked("Numerador de la primera fracción", f"{self.n1}"))
 
         # Round the fractions to the right, and back in the row of the denominators.
         self.press("ctrl+Right", locked("Numerador de la segunda fracción", f"{self.n2}"), self.says_fraction(second))
@@ -92,6 +95,8 @@ class SumLesson(OperationLesson):
         self.press("Tab", editable("Denominador del resultado", ""))
         self.type(f"{self.d1}")
         self.press("shift+Tab", editable("Numerador del resultado", "1"))
+
+        self.press("F4", said("Ejercicios:  2; Errores:  2"))
 
         # The right one; the verdict is heard on "Continuar", and Enter there brings the next exercise.
         self.press("alt+b", said("Numerador del resultado"))  # where the focus was before
@@ -119,7 +124,7 @@ class SumLesson(OperationLesson):
         self.press("Down", [SUBMENU_HELP])
         behind = editable("Denominador del resultado", f"{self.d1}")
         self.press_return_for_box("Combinaciones de teclas", HELP, behind=behind)
-        self.press("Return", window_again("SUMA DE FRACCIONES"), editable("Denominador del resultado", f"{self.d1}"))
+        self.press("Return", window_again(self.title, self.keys), editable("Denominador del resultado", f"{self.d1}"))
         self.press("Tab", button("Hecho"))
         self.press("F2", self.says("No hay ninguna fracción seleccionada"))
         self.press("F2", self.says("No hay ninguna fracción seleccionada"))
@@ -277,7 +282,7 @@ class Cociente(OperationLesson):
         self.press("alt+o", ["Cantidades."])
         self.press("Down", ["Combinaciones de teclas."])
         self.press_return_for_box("Combinaciones de teclas", HELP, behind=button("Continuar"))
-        self.press("Return", window_again(self.title), button("Continuar"))
+        self.press("Return", window_again(self.title, self.keys), button("Continuar"))
         self.press("alt+F4", window_again("KELVORA"), button(self.name))
 
 

@@ -76,6 +76,21 @@ private slots:
         }
     }
 
+    void a_locked_operand_says_so_where_there_is_no_verdict_to_empty()
+    {
+        for (int box = 0; box < 4; ++box) {
+            Button("Command1").click();
+            Text1(box).setFocus();
+            m_ear->Take();
+            Type("7");
+            QCOMPARE(m_ear->Take(), QStringList());
+            Type("7");
+            QCOMPARE(m_ear->Take(), QStringList("SAY solo lectura"));
+            Type("7");
+            QCOMPARE(m_ear->Take(), QStringList());
+        }
+    }
+
     void keys_elsewhere_leave_the_verdict()
     {
         for (const QString name : {"Text2(0)", "Text3", "TbMensajes", "Command2(1)"}) {

@@ -25,6 +25,9 @@ WINDOW, BUTTON, EDIT = "50032", "50000", "50004"
 WORDS = r"[a-zA-Záéíóú ]+"
 OPERATION = {sign: rf" ?{WORDS}{re.escape(sign)}{WORDS}=" for sign in "+-÷"} | {" por ": rf" ?{WORDS} por {WORDS}="}
 NOTHING = " ?cero ceros ?"
+SCORE = r"Ejercicios: +\d+; Errores: +\d+\.?"
+ROW = rf"{WORDS}, {WORDS}, {WORDS}, {WORDS}"
+SERIES = rf"{ROW}; falta el término 5"
 
 
 def operation(sign):
@@ -39,24 +42,28 @@ def operation(sign):
 # For each screen, in the order of the menu's buttons: its title, what it says at opening, and keys with what they say.
 LESSONS = [
     ("Representación gráfica de fracciones", [rf" ?{WORDS}"],
-     [("F3", [WORDS]), ("alt+p", []), ("3", []), ("Tab", []), ("Tab", []), ("space", ["1 - rojo"]), ("space", ["1 - verde"]),
-      ("alt+h", ["Respuesta incorrecta"]), ("alt+c", [WORDS])]),
+     [("F3", [WORDS]), ("alt+p", []), ("3", []), ("Tab", []), ("Tab", []),
+      ("space", ["1 - rojo; partes coloreadas: 1"]), ("space", ["1 - verde; partes coloreadas: 0"]),
+      ("alt+h", ["Respuesta incorrecta"]), ("F4", [SCORE]), ("alt+c", [WORDS])]),
     ("Expresa con fracciones", [r"Rojas: \d+; Amarillas: \d+; Verdes: \d+; Total: \d+\."],
      [("l", [r"Rojas: \d+; Amarillas: \d+; Verdes: \d+; Total: \d+\."]), ("alt+h", ["Respuesta incorrecta"]),
       ("alt+h", [" Respuesta incorrecta"])]),
     ("Fracción de una cantidad", [rf"{WORDS} de {WORDS}"],
      [("F1", [rf"{WORDS} de {WORDS}"]), ("alt+r", []), ("0", []), ("Return", ["Resultado incorrecto"])]),
-    ("DESCOMPOSICIÓN EN FACTORES PRIMOS", [],
-     [("Tab", []), ("Tab", []), ("alt+v", [r"Escalera [\d| ]+"])]),
-    ("Ordenar fracciones", [], [("Tab", []), ("Tab", []), ("Return", [WORDS])]),
+    ("DESCOMPOSICIÓN EN FACTORES PRIMOS", [WORDS],
+     [("F3", [WORDS]), ("Tab", []), ("Tab", []), ("alt+v", [r"Escalera [\d| ]+"]), ("alt+c", [WORDS]), ("F4", [SCORE])]),
+    ("Ordenar fracciones", [ROW],
+     [("7", ["solo lectura"]), ("Tab", []), ("Tab", []), ("Return", [rf"{WORDS}, posición 1 de 4"]), ("F3", [ROW]),
+      ("alt+v", [ROW]), ("alt+b", [ROW]), ("alt+c", [ROW])]),
     ("Convertir a común denominador", [],
      [("alt+h", ["Resultado incorrecto"]), ("Return", ["Resultado incorrecto"])]),
     ("SUMA DE FRACCIONES", *operation("+")),
     ("DIFERENCIA DE FRACCIONES", *operation("-")),
     ("PRODUCTO DE FRACCIONES", *operation(" por ")),
     ("COCIENTE DE FRACCIONES", *operation("÷")),
-    ("Completa la serie", [],
-     [("Tab", []), ("Tab", []), ("7", [r"\d+"]), ("Return", ["Respuesta incorrecta"])]),
+    ("Completa la serie", [SERIES],
+     [("F3", [SERIES]), ("Tab", []), ("Tab", []), ("7", [r"\d+"]), ("Return", ["Respuesta incorrecta"]), ("F4", [SCORE]),
+      ("alt+c", [SERIES]), ("alt+v", [WORDS])]),
 ]
 
 
