@@ -297,7 +297,7 @@ private slots:
 
     void what_waits_when_its_window_is_blocked_does_nothing()
     {
-        Move(Digit('5') + QList<Finger>{{down, Qt::Key_Alt}, {up, Qt::Key_Alt, Qt::AltModifier}} + WithAlt(Qt::Key_C));
+        Move(Digit('5') + QList<Finger>{{down, Qt::Key_Alt}, {up, Qt::Key_Alt, Qt::AltModifier}});
         sample::SampleForm modal;
         modal.setAttribute(Qt::WA_DeleteOnClose, false);
         modal.Open(ui::Modality::Modal);
