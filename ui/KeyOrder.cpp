@@ -55,8 +55,8 @@ bool KeyOrder::eventFilter(QObject* window, QEvent* event)
     const QWindow* modal = QGuiApplication::modalWindow();
     const bool isBlocked = modal != nullptr && modal != window; // since the finger pressed the key
     return turn->isPostponed && !isBlocked &&
-           qt_sendShortcutOverrideEvent(window, key.timestamp(), key.key(), key.modifiers(), key.text(),
-                                        key.isAutoRepeat(), static_cast<ushort>(key.count()));
+           qt_sendShortcutOverrideEvent(window, static_cast<ulong>(key.timestamp()), key.key(), key.modifiers(),
+                                        key.text(), key.isAutoRepeat(), static_cast<ushort>(key.count()));
 }
 
 // What becomes of an Alt that waits.
