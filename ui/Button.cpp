@@ -23,14 +23,21 @@ constexpr int focusWidth = 3;
 constexpr int captionMargin = focusWidth + 2;
 
 // Runs `action`, which presses a button. Where that leaves the focus in the box where it was, perhaps by way of the
-// button, a reader tells nothing, and the pupil would not know whether the key has done anything.
+// button, a reader tells nothing, and the pupil would not know whether the key has done anything. Coming back from
+// another window is told.
 template <class Action>
 void SayWhereItLeads(Action action)
 {
     const QPointer<QWidget> before = QApplication::focusWidget();
+    bool wasElsewhere = false;
+    const auto look = QObject::connect(qApp, &QApplication::focusChanged, qApp, [&](QWidget*, const QWidget* now) {
+        wasElsewhere = wasElsewhere || now == nullptr || !before || now->window() != before->window();
+    });
     action();
+    QObject::disconnect(look);
     const auto* box = dynamic_cast<const EditWidget*>(QApplication::focusWidget());
-    if (box != nullptr && before == QApplication::focusWidget() && Announcer::Instance().IsSilent(*before->window())) {
+    if (box != nullptr && before == QApplication::focusWidget() && !wasElsewhere &&
+        Announcer::Instance().IsSilent(*before->window())) {
         Announcer::Instance().Say(*before, (before->accessibleName() + ' ' + box->CaretLine()).simplified());
     }
 }

@@ -224,6 +224,7 @@ private slots:
         TypeDivisors({"7"});
         Press(Qt::Key_Tab);
         const QStringList rows = Rows();
+        m_ear->Take();
         WithDialog([] { Press(Qt::Key_F2); },
                    [answer](QWidget& dialog) {
                        auto& box = dynamic_cast<QInputDialog&>(dialog);
@@ -236,7 +237,6 @@ private slots:
         QCOMPARE(Text("TbValor"), value);
         QCOMPARE(Rows(), value == "77" ? rows : QStringList(15, emptyRow) + QStringList(""));
         QCOMPARE(Text("TbFactores"), "7 ");
-        m_ear->Take();
         Activate();
         QCOMPARE(m_ear->TakeSaid(), value == "77" ? QStringList() : QStringList(ValueInWords()));
         Box("Text1").setFocus();
