@@ -110,6 +110,7 @@ class Keys(unittest.TestCase):
             self.wait_boxes(lambda boxes: boxes["Resultado"] == "5", "the digit in the answer")
             self.session.press("Escape")
             self.session.wait_closed("Introducir cantidad")
+            self.session.wait_active("Fracción de una cantidad")
             self.clear("Resultado")
 
 
