@@ -92,7 +92,7 @@ void SetUpAccessibility()
 
 void LetReaderCatchUp()
 {
-    constexpr int moment = 50; // milliseconds; with 30 each of ten boxes was read whole, without, half of them
+    constexpr int moment = 50; // milliseconds, with which 16 of 16 boxes were read whole; without, about half
     if (!keysComeBesideTheProgram || !QAccessible::isActive()) {
         return;
     }
