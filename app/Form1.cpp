@@ -3,62 +3,22 @@
 #include "Application.h"
 #include "Dialogs.h"
 #include "Entero16.h"
-#include "Form2.h"
-#include "FormCantidad.h"
-#include "FormCociente.h"
-#include "FormConversion.h"
-#include "FormDiferencia.h"
-#include "FormFactores.h"
-#include "FormFichas.h"
-#include "FormOrdenar.h"
-#include "FormProducto.h"
-#include "FormRepresentacion.h"
-#include "FormSeries.h"
-
-#include <memory>
+#include "Pantallas.h"
 
 namespace app {
 
 namespace {
 
-using ui::Modality;
-
-template <class Screen>
-ui::Form* New()
-{
-    return new Screen; // NOLINT(cppcoreguidelines-owning-memory): a screen destroys itself when it is closed
-}
-
-struct Entrada
-{
-    std::string_view caption;
-    ui::Form* (*open)();
-    Modality modality;
-};
-
-// A screen is wired here and nowhere else. The button after the last screen ends the program.
-constexpr std::array<Entrada, 11> entradas{{
-    {"Representación &gráfica", New<ejercicios::FormRepresentacion>, Modality::Modal},
-    {"&Expresa con fracciones", New<ejercicios::FormFichas>, Modality::Modal},
-    {"&Fracción de una cantidad", New<ejercicios::FormCantidad>, Modality::Modal},
-    {"D&escomposición en factores primos", New<ejercicios::FormFactores>, Modality::Modeless},
-    {"&Ordenar fracciones", New<ejercicios::FormOrdenar>, Modality::Modeless},
-    {"&Conversión al mismo denominador", New<ejercicios::FormConversion>, Modality::Modeless},
-    {"&Suma de fracciones", New<operaciones::Form2>, Modality::Modeless},
-    {"&Diferencia de fracciones", New<operaciones::FormDiferencia>, Modality::Modeless},
-    {"&Producto de fracciones", New<operaciones::FormProducto>, Modality::Modal},
-    {"&Cociente de fracciones", New<operaciones::FormCociente>, Modality::Modal},
-    {"&Completa la serie", New<ejercicios::FormSeries>, Modality::Modeless},
-}};
-constexpr int salir = entradas.size();
+// The button after the last screen ends the program.
+constexpr int salir = pantallas.size();
 
 constexpr auto controles = [] {
-    std::array<ui::ControlDesign, entradas.size() + 1> buttons;
+    std::array<ui::ControlDesign, pantallas.size() + 1> buttons;
     for (int i = 0; i < std::ssize(buttons); ++i) {
         buttons[i] = {.kind = ui::Kind::Button,
                       .name = "Command1",
                       .index = i,
-                      .text = i == salir ? "&Salir" : entradas[i].caption,
+                      .text = i == salir ? "&Salir" : pantallas[i].caption,
                       .tab = i,
                       .color = ui::Color::Green,
                       .points = 15};
@@ -75,12 +35,12 @@ Form1::Form1()
             .caption = "KELVORA",
             .width = 9200,
             .height = 9200,
-            .controls = controles,
+            .controls = {controles, ui::Controls::AccessKeys::Shared},
             .menus = menus,
             .resizing = ui::Resizing::Own})
 {
-    Command1.OnClick(this, &Form1::Command1_Click);
-    The<ui::MenuItem>("MnuAce").OnClick = [this](int) { MnuAce_Click(); };
+    OnClick("Command1", &Form1::Command1_Click);
+    OnClick("MnuAce", &Form1::MnuAce_Click);
 }
 
 // Two columns, read downwards; everything in whole units of the window's size.
@@ -102,13 +62,13 @@ void Form1::Command1_Click(int Index)
         ui::End();
         return;
     }
-    QPointer<ui::Form>& screen = m_open[Index];
-    if (screen) {
+    std::weak_ptr<ui::Form>& open = m_open[Index];
+    if (const auto screen = open.lock()) {
         screen->BringForward();
         return;
     }
-    screen = entradas[Index].open();
-    screen->Open(entradas[Index].modality);
+    const Pantalla& pantalla = pantallas.at(static_cast<std::size_t>(Index));
+    open = Open(pantalla.crear(), pantalla.modality, this);
 }
 
 void Form1::MnuAce_Click()

@@ -4,9 +4,8 @@
 
 #include "Form.h"
 
-#include <QPointer>
-
 #include <map>
+#include <memory>
 
 namespace app {
 
@@ -22,7 +21,7 @@ private:
 
     const ui::ControlArray<ui::Button> Command1 = All<ui::Button>("Command1");
 
-    std::map<int, QPointer<ui::Form>> m_open; // by the button's index
+    std::map<int, std::weak_ptr<ui::Form>> m_open; // by the button's index
 };
 
 } // namespace app

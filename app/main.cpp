@@ -4,7 +4,6 @@
 int main(int argc, char** argv)
 {
     ui::Application application(argc, argv);
-    auto* menu = new app::Form1; // destroys itself when it is closed
-    menu->Open(ui::Modality::Modeless);
-    return ui::Application::exec();
+    ui::Form::Open(std::make_unique<app::Form1>(), ui::Modality::Modeless);
+    return application.Run();
 }

@@ -6,12 +6,13 @@
 //   screens readings N             N readings of the sum's operation, likewise
 //   screens soak N                 N exercises on every screen and N / 50 openings: memory and time at begin and end
 #include "Application.h"
-#include "Random.h"
+#include "Azar.h"
 #include "Support.h"
 #include "Windows.h"
 
 #include <QAbstractButton>
 #include <QFile>
+#include <QMainWindow>
 
 #include <cstdio>
 #include <ctime>
@@ -40,21 +41,22 @@ int Resident()
     return kib;
 }
 
-ui::Form* Open(const support::Window& window)
+QMainWindow* Open(const support::Window& window)
 {
-    ui::Form* form = window.make();
-    form->Open(ui::Modality::Modeless);
+    auto screen = window.make();
+    QMainWindow* form = &screen->Window();
+    ui::Form::Open(std::move(screen), ui::Modality::Modeless);
     support::Settle();
     return form;
 }
 
-void Close(ui::Form* form)
+void Close(QMainWindow* form)
 {
     form->close();
     support::Settle();
 }
 
-void Press(const ui::Form& form, const QString& caption)
+void Press(const QMainWindow& form, const QString& caption)
 {
     for (QAbstractButton* button : form.findChildren<QAbstractButton*>()) {
         if (button->text() == caption) {
@@ -67,7 +69,7 @@ void Press(const ui::Form& form, const QString& caption)
 }
 
 // A new one, something typed, the solution, and its check.
-void Exercise(const ui::Form& form)
+void Exercise(const QMainWindow& form)
 {
     Press(form, "&Continuar");
     support::Press(Qt::Key_1);
@@ -76,10 +78,10 @@ void Exercise(const ui::Form& form)
     Press(form, "&Hecho");
 }
 
-const support::Window& Named(std::string_view name)
+const support::Window& Named(const QString& name)
 {
-    const auto* window = std::ranges::find(support::windows, name, &support::Window::name);
-    if (window == support::windows.end()) {
+    const auto window = std::ranges::find(support::Windows(), name, &support::Window::name);
+    if (window == support::Windows().end()) {
         qFatal("no such window");
     }
     return *window;
@@ -95,15 +97,15 @@ void MeasureOpenings()
 {
     constexpr int times = 20;
     std::printf("%-24s%12s%12s\n", "ms of CPU, bare figures", "first", "median");
-    for (const support::Window& window : support::windows) {
+    for (const support::Window& window : support::Windows()) {
         std::vector<double> spent;
         for (int i = 0; i < times; ++i) {
             const double before = Cpu();
-            ui::Form* form = Open(window);
+            QMainWindow* form = Open(window);
             spent.push_back(Cpu() - before);
             Close(form);
         }
-        std::printf("%-24s%12.2f%12.2f\n", window.name, spent.front(), Median(spent));
+        std::printf("%-24s%12.2f%12.2f\n", qPrintable(window.name), spent.front(), Median(spent));
     }
 }
 
@@ -112,7 +114,7 @@ void Soak(const support::Window& window, int exercises)
 {
     constexpr int perScreen = 10'000;
     constexpr int sample = 1000;
-    ui::Form* form = Open(window);
+    QMainWindow* form = Open(window);
     double firstTime = 0;
     int firstMemory = 0;
     double mark = Cpu();
@@ -139,7 +141,7 @@ void Soak(const support::Window& window, int exercises)
         Close(Open(window));
         firstOpenings = i == openings / 20 ? Resident() : firstOpenings;
     }
-    std::printf("%-22s%14.3f%14.3f%14d%14d\n", window.name, firstTime / sample, lastTime / sample, growth,
+    std::printf("%-22s%14.3f%14.3f%14d%14d\n", qPrintable(window.name), firstTime / sample, lastTime / sample, growth,
                 Resident() - firstOpenings);
     (void)std::fflush(stdout);
 }
@@ -148,21 +150,21 @@ void Soak(const support::Window& window, int exercises)
 
 int main(int argc, char** argv)
 {
-    ui::Application application(argc, argv);
-    ui::Application::setQuitOnLastWindowClosed(false);
-    ui::FixSeed(1);
+    const ui::Application application(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+    numeros::FijarSemilla(1);
     const QStringList arguments = QApplication::arguments();
     const QString what = arguments.value(1);
     if (what == "names") {
-        for (const support::Window& window : support::windows) {
-            if (window.name != std::string_view("Form1")) {
-                std::puts(window.name);
+        for (const support::Window& window : support::Windows()) {
+            if (window.name != "Form1") {
+                std::printf("%s\n", qPrintable(window.name));
             }
         }
     } else if (what == "open") {
         MeasureOpenings();
     } else if (what == "exercises") {
-        const ui::Form* form = Open(Named(arguments.value(2).toStdString()));
+        const QMainWindow* form = Open(Named(arguments.value(2)));
         for (int i = 0; i < arguments.value(3).toInt(); ++i) {
             Exercise(*form);
         }
@@ -174,8 +176,8 @@ int main(int argc, char** argv)
         }
     } else if (what == "soak") {
         std::printf("%-22s%14s%14s%14s%14s\n", "", "first, ms", "last, ms", "growth, KiB", "reopened, KiB");
-        for (const support::Window& window : support::windows) {
-            if (window.name != std::string_view("Form1")) {
+        for (const support::Window& window : support::Windows()) {
+            if (window.name != "Form1") {
                 Soak(window, arguments.value(2).toInt());
             }
         }

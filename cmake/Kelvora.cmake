@@ -1,10 +1,10 @@
 # Every folder of the house is one library. Its include path is its own folder and, through the libraries that it
-# links, theirs: a header of a folder that is not linked is not found.
+# links, theirs: a header of a folder that is not linked is not found. What it links as PRIVATE its own users do not find.
 function(kelvora_library name)
-    cmake_parse_arguments(ARG "" "" "SOURCES;LINK" ${ARGN})
+    cmake_parse_arguments(ARG "" "" "SOURCES;LINK;PRIVATE" ${ARGN})
     add_library(${name} STATIC ${ARG_SOURCES})
     target_include_directories(${name} PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
-    target_link_libraries(${name} PUBLIC ${ARG_LINK})
+    target_link_libraries(${name} PUBLIC ${ARG_LINK} PRIVATE ${ARG_PRIVATE})
     kelvora_warnings(${name})
 endfunction()
 

@@ -1,14 +1,16 @@
 #include "FormConversion.h"
 
-#include "Random.h"
+#include "Azar.h"
+#include "Clock.h"
+#include "Filas.h"
+
+#include <algorithm>
 
 namespace ejercicios {
 
 namespace {
 
 using enum ui::Kind;
-using numeros::Entero16;
-using ui::Color;
 
 constexpr ui::ControlDesign Raya(int index, std::string_view marco)
 {
@@ -18,12 +20,12 @@ constexpr ui::ControlDesign Raya(int index, std::string_view marco)
 
 // A box of a frame: 0 and 1 are the numerators, 2 and 3 the denominators, and the pupil comes first to both boxes of
 // the first fraction.
-constexpr ui::ControlDesign Caja(std::string_view name, int index, std::string_view says, std::string_view marco,
+constexpr ui::ControlDesign Caja(std::string_view name, int index, std::string_view nombre, std::string_view marco,
                                  int tab)
 {
     return {.name = name,
             .index = index,
-            .says = says,
+            .accessibleName = nombre,
             .place = {index % 2 == 0 ? 300 : 1400, index < 2 ? 500 : 1200, 900, 500},
             .tab = tab,
             .inside = marco,
@@ -34,11 +36,11 @@ constexpr ui::ControlDesign Caja(std::string_view name, int index, std::string_v
 }
 
 constexpr ui::ControlDesign controles[]{
-    {.kind = MultiLine,
+    {.kind = TextArea,
      .name = "TBInstruc",
      .text = "Convierte estas fracciones al mismo denominador.\r\n"
              "Escribe primero los cálculos intermedios. \r\n",
-     .says = "Instrucciones",
+     .accessibleName = "Instrucciones",
      .place = {250, 200, 8100, 900},
      .tab = 0},
     {.kind = Frame, .name = "Frame1", .text = "Iniciales", .place = {250, 1300, 2600, 2100}},
@@ -62,49 +64,53 @@ constexpr ui::ControlDesign controles[]{
     Caja("TBFin", 1, "Numerador de la segunda fracción final", "Frame3", 11),
     Raya(5, "Frame3"),
     Caja("TBFin", 3, "Denominador de la segunda fracción final", "Frame3", 12),
-    ui::ButtonDesign("Command1", ui::noIndex, "&Hecho", {3550, 3600, 1500, 495}, 13, Color::Yellow),
-    ui::ButtonDesign("Command2", 0, "&Continuar", {3550, 4850, 1500, 500}, 14, Color::Cyan),
-    ui::ButtonDesign("Command2", 1, "&Borrar", {1900, 4850, 1500, 500}, 15, Color::Green),
-    ui::ButtonDesign("Command2", 2, "&Ver solución", {5200, 4850, 1500, 500}, 16, Color::Red),
+    comun::Hecho({3550, 3600, 1500, 495}, 13),
+    comun::BotonContinuar({3550, 4850, 1500, 500}, 14),
+    comun::BotonBorrar({1900, 4850, 1500, 500}, 15),
+    comun::BotonVerSolucion({5200, 4850, 1500, 500}, 16),
     {.name = "TBMensajes",
-     .says = "Mensajes",
+     .accessibleName = "Mensajes",
      .place = {2550, 4200, 3500, 500},
      .tab = 17,
      .speaking = ui::Speaking::Spoken},
     {.name = "TBResultados",
-     .text = "Ejercicios: 0; Errores: 0",
-     .says = "Marcador",
+     .text = lenguaje::marcadorFijo,
+     .accessibleName = "Marcador",
      .place = {2550, 5550, 3500, 495},
      .tab = 18},
 };
 
+template <class Value>
+void Escribir(const ui::ControlArray<ui::TextBox>& cajas, const std::array<Value, 4>& valores)
+{
+    for (ui::TextBox& caja : cajas) {
+        caja.Text(valores.at(static_cast<std::size_t>(caja.Index())));
+    }
+}
+
 } // namespace
 
 FormConversion::FormConversion()
-    : Form({.name = "FormConversion",
-            .caption = "Convertir a común denominador",
-            .width = 8595,
-            .height = 6255,
-            .controls = controles})
+    : Ejercicio({.name = "FormConversion",
+                 .caption = "Convertir a común denominador",
+                 .width = 8595,
+                 .height = 6255,
+                 .controls = controles})
 {
-    The<ui::Button>("Command1").OnClick = [this](int) { Command1_Click(); };
-    Command2.OnClick(this, &FormConversion::Command2_Click);
+    OnClick("Command1", &FormConversion::Command1_Click);
 }
 
 void FormConversion::Form_Load()
 {
-    ui::Randomize(ui::TimerSeed());
+    numeros::Sembrar(ui::TimerSeed());
     NuevaConversion();
 }
 
 // The same verdict again is the same text, and is heard all the same.
 void FormConversion::Command1_Click()
 {
-    const std::array<Entero16, 4> solucion = Solucion();
-    bool correcto = true;
-    for (const ui::TextBox& box : TBFin) {
-        correcto = correcto && box.Number() == solucion.at(static_cast<std::size_t>(box.Index())).Valor();
-    }
+    const bool correcto = std::ranges::equal(TBFin, m_conversion.Final(), {}, &ui::TextBox::Number,
+                                             [](numeros::Entero16 numero) { return numero.Valor(); });
     TBMensajes.Text(correcto ? "Resultado correcto" : "Resultado incorrecto");
     Ejercicios += 1;
     if (correcto) {
@@ -114,55 +120,29 @@ void FormConversion::Command1_Click()
     }
 }
 
-void FormConversion::Command2_Click(int Index)
-{
-    constexpr std::array acciones{&FormConversion::NuevaConversion, &FormConversion::Borrar,
-                                  &FormConversion::VerSolucion};
-    (this->*acciones.at(static_cast<std::size_t>(Index)))();
-}
-
 void FormConversion::NuevaConversion()
 {
-    PrimerDenominador = ui::Draw(6, 2);
-    do {
-        SegundoDenominador = ui::Draw(6, 2);
-    } while (SegundoDenominador == PrimerDenominador);
-    PrimerNumerador = ui::Draw(9, 1);
-    SegundoNumerador = ui::Draw(9, 1);
-    TBIni[0].Text(PrimerNumerador.Valor());
-    TBIni[1].Text(SegundoNumerador.Valor());
-    TBIni[2].Text(PrimerDenominador.Valor());
-    TBIni[3].Text(SegundoDenominador.Valor());
+    m_conversion = reglas::Conversion::Sortear();
+    Escribir(TBIni, m_conversion.Inicial());
     Borrar();
+}
+
+void FormConversion::Continuar()
+{
+    NuevaConversion();
 }
 
 void FormConversion::Borrar()
 {
-    for (int i = 0; i < 4; ++i) {
-        TBMedi[i].Text("");
-        TBFin[i].Text("");
-    }
+    constexpr std::array<std::string_view, 4> nada{};
+    Escribir(TBMedi, nada);
+    Escribir(TBFin, nada);
 }
 
 void FormConversion::VerSolucion()
 {
-    const auto producto = [](Entero16 uno, Entero16 otro) {
-        return std::to_string(uno.Valor()) + "x" + std::to_string(otro.Valor());
-    };
-    TBMedi[0].Text(producto(PrimerNumerador, SegundoDenominador));
-    TBMedi[1].Text(producto(PrimerDenominador, SegundoNumerador));
-    TBMedi[2].Text(producto(PrimerDenominador, SegundoDenominador));
-    TBMedi[3].Text(producto(PrimerDenominador, SegundoDenominador));
-    const std::array<Entero16, 4> solucion = Solucion();
-    for (ui::TextBox& box : TBFin) {
-        box.Text(solucion.at(static_cast<std::size_t>(box.Index())).Valor());
-    }
-}
-
-std::array<Entero16, 4> FormConversion::Solucion() const
-{
-    const Entero16 comun = PrimerDenominador * SegundoDenominador;
-    return {PrimerNumerador * SegundoDenominador, SegundoNumerador * PrimerDenominador, comun, comun};
+    Escribir(TBMedi, m_conversion.Intermedia());
+    Escribir(TBFin, m_conversion.Final());
 }
 
 } // namespace ejercicios

@@ -1,14 +1,15 @@
 #include "FormFactores.h"
 
+#include "Azar.h"
+#include "Clock.h"
 #include "Dialogs.h"
+#include "Escribir.h"
+#include "Filas.h"
 #include "Keys.h"
 #include "Lectura.h"
-#include "Marcador.h"
-#include "Random.h"
 #include "Val.h"
 
 #include <cmath>
-#include <vector>
 
 namespace ejercicios {
 
@@ -16,28 +17,28 @@ namespace {
 
 using enum ui::Kind;
 using numeros::Entero16;
+using reglas::Escalera;
 using ui::Checking;
-using ui::Color;
 using ui::KeyResult;
 using ui::Typing;
 
 constexpr ui::ControlDesign controles[]{
     {.name = "TbInstruc",
      .text = "Realiza la descomposición en factores primos",
-     .says = "Instrucciones",
+     .accessibleName = "Instrucciones",
      .keys = "F3 repite el ejercicio. F4 dice el marcador.",
      .place = {966, 300, 6000, 500},
      .tab = 0,
      .font = "MS Sans Serif"},
     {.name = "TbValor",
-     .says = "Valor",
+     .accessibleName = "Valor",
      .place = {933, 1300, 2125, 500},
      .tab = 1,
      .typing = Typing::Editable,
      .font = "Courier New"},
-    {.kind = MultiLine,
+    {.kind = TextArea,
      .name = "TbDesco",
-     .says = "Escalera",
+     .accessibleName = "Escalera",
      .place = {933, 2100, 2125, 4000},
      .tab = 2,
      .typing = Typing::KeysOnly,
@@ -49,26 +50,24 @@ constexpr ui::ControlDesign controles[]{
      .place = {933, 6600, 2125, 500},
      .tab = 3,
      .font = "Courier New"},
-    {.name = "TbFactores", .says = "Factores primos", .place = {933, 7100, 2125, 500}, .tab = 4, .font = "Courier New"},
-    ui::ButtonDesign("Command1", ui::noIndex, "&Hecho", {4750, 1100, 1500, 400}, 5, Color::Yellow),
+    {.name = "TbFactores",
+     .accessibleName = "Factores primos",
+     .place = {933, 7100, 2125, 500},
+     .tab = 4,
+     .font = "Courier New"},
+    comun::Hecho({4750, 1100, 1500, 400}, 5),
     {.name = "Text1",
-     .says = "Mensajes",
+     .accessibleName = "Mensajes",
      .place = {4000, 1900, 3000, 500},
      .tab = 6,
      .typing = Typing::Editable,
      .speaking = ui::Speaking::Spoken,
      .coloring = ui::Coloring::Selection,
      .font = "Courier New"},
-    ui::ButtonDesign("Command2", 0, "&Continuar", {4750, 2700, 1300, 500}, 7, Color::Cyan),
-    ui::ButtonDesign("Command2", 1, "&Borrar", {4000, 3500, 1300, 500}, 8, Color::Green),
-    ui::ButtonDesign("Command2", 2, "&Ver solución", {5500, 3500, 1500, 500}, 9, Color::Red),
-    {.name = "tbResultados",
-     .text = "Ejercicios:  0; Errores:  0",
-     .says = "Marcador",
-     .place = {4000, 7150, 3000, 480},
-     .tab = 10,
-     .speaking = ui::Speaking::Score,
-     .points = 10.5},
+    comun::BotonContinuar({4750, 2700, 1300, 500}, 7),
+    comun::BotonBorrar({4000, 3500, 1300, 500}, 8),
+    comun::BotonVerSolucion({5500, 3500, 1500, 500}, 9),
+    comun::LineaMarcador({4000, 7150, 3000, 480}, 10, 10.5),
 };
 
 constexpr ui::MenuDesign menus[]{
@@ -85,29 +84,28 @@ constexpr ui::MenuDesign menus[]{
 } // namespace
 
 FormFactores::FormFactores()
-    : Form({.name = "FormFactores",
-            .caption = "DESCOMPOSICIÓN EN FACTORES PRIMOS",
-            .width = 7245,
-            .height = 7845,
-            .controls = controles,
-            .menus = menus})
+    : Ejercicio({.name = "FormFactores",
+                 .caption = "DESCOMPOSICIÓN EN FACTORES PRIMOS",
+                 .width = 7245,
+                 .height = 7845,
+                 .controls = controles,
+                 .menus = menus},
+                "MnuOpcsal")
 {
-    TbDesco.OnKeyDown = [this](int, int KeyCode, int) { return TbDesco_KeyDown(KeyCode); };
-    TbDesco.OnKeyPress = [this](int, int KeyAscii) { return TbDesco_KeyPress(KeyAscii); };
-    TbDesco.OnValidate = [this](int) { TbDesco_Validate(); };
-    TbValor.OnGotFocus = [this](int) { TbValor_GotFocus(); };
-    Text1.OnValidate = [this](int) { Text1_Validate(); };
-    The<ui::Button>("Command1").OnClick = [this](int) { Command1_Click(); };
-    Command2.OnClick(this, &FormFactores::Command2_Click);
-    MnuOpcValLis.OnClick(this, &FormFactores::MnuOpcValLis_Click);
-    The<ui::MenuItem>("MnuOpcInt").OnClick = [this](int) { MnuOpcInt_Click(); };
-    The<ui::MenuItem>("MnuOpcsal").OnClick = [this](int) { MnuOpcSal_Click(); };
+    OnKeyDown("TbDesco", &FormFactores::TbDesco_KeyDown);
+    OnKeyPress("TbDesco", &FormFactores::TbDesco_KeyPress);
+    OnValidate("TbDesco", &FormFactores::TbDesco_Validate);
+    OnGotFocus("TbValor", &FormFactores::TbValor_GotFocus);
+    OnValidate("Text1", &FormFactores::Text1_Validate);
+    OnClick("Command1", &FormFactores::Command1_Click);
+    OnClick("MnuOpcValLis", &FormFactores::MnuOpcValLis_Click);
+    OnClick("MnuOpcInt", &FormFactores::MnuOpcInt_Click);
 }
 
 void FormFactores::Form_Load()
 {
     NuevaEscalera();
-    ui::Randomize(ui::TimerSeed());
+    numeros::Sembrar(ui::TimerSeed());
     SortearValor(100);
     LeerValor();
 }
@@ -121,30 +119,11 @@ void FormFactores::Command1_Click()
 {
     LeerValor();
     LeerEscalera(false);
-    Divisores FactoresAlumno = Factores;
-    const Entero16 producto = Producto(FactoresAlumno);
-    if (!(producto == Valor)) {
-        // The first parenthesis stays open, on purpose.
-        Incorrecto("El producto de los factores calculados (" + std::to_string(producto.Valor()) +
-                   " es distinto del valor inicial (" + std::to_string(Valor.Valor()) + ")");
+    if (const auto objecion = reglas::Objecion(Factores, Valor)) {
+        Incorrecto(*objecion);
         return;
     }
-    Ordenar(FactoresAlumno);
-    const std::vector<Division> divisiones = Descomponer(Valor);
-    for (std::size_t i = 0; i < divisiones.size(); ++i) {
-        Factores.at(i) = divisiones[i].divisor;
-    }
-    bool correcto = true;
-    for (std::size_t i = 0; i < Factores.size(); ++i) {
-        correcto = correcto && (Factores.at(i).Valor() <= 1 || Factores.at(i) == FactoresAlumno.at(i));
-    }
-    if (!correcto) {
-        Incorrecto("Los factores primos obtenidos por usted son diferentes a los que corresponden a la cantidad "
-                   "utilizada.\r\nValores calculados : " +
-                   Lista(FactoresAlumno) + "\r\nValores correctos: " + Lista(Factores));
-        return;
-    }
-    Veredicto("Resultado correcto");
+    comun::EscribirOtraVezDelante(Text1, "Resultado correcto");
     if (puntuable) {
         puntuable = false;
         Ejercicios += 1;
@@ -155,12 +134,11 @@ void FormFactores::Command1_Click()
 
 void FormFactores::Command2_Click(int Index)
 {
-    constexpr std::array acciones{&FormFactores::Continuar, &FormFactores::Borrar, &FormFactores::VerSolucion};
-    (this->*acciones.at(static_cast<std::size_t>(Index)))();
+    Ejercicio::Command2_Click(Index);
     TbDesco.SetFocus();
 }
 
-KeyResult FormFactores::TbDesco_KeyDown(int KeyCode)
+KeyResult FormFactores::TbDesco_KeyDown(int KeyCode, int /*Shift*/)
 {
     return KeyCode == ui::KeyCode::Delete ? Editar(&Escalera::Suprimir) : KeyResult::Pass;
 }
@@ -198,20 +176,19 @@ void FormFactores::TbValor_GotFocus()
     TbValor.SelectAll();
 }
 
-// A verdict reads as 0 and gives way to the value, on purpose.
+// A verdict reads as 0 and gives way to the value.
 void FormFactores::Text1_Validate()
 {
     const double numero = Text1.Number();
     if (numero > 1 && numero < 2000) {
         Valor = Entero16::Redondeado(numero);
     } else {
-        Text1.Text(Valor.Valor());
+        Text1.Text(Valor);
     }
 }
 
 void FormFactores::MnuOpcValLis_Click(int Index)
 {
-    MnuOpcValLis[Index].Check();
     OpcionValores = Index;
 }
 
@@ -222,46 +199,22 @@ void FormFactores::MnuOpcInt_Click()
         return;
     }
     Valor = Entero16::Redondeado(numero);
-    TbValor.Text(Valor.Valor());
+    TbValor.Text(Valor);
     NuevaEscalera();
     TellExercise();
 }
 
-void FormFactores::MnuOpcSal_Click()
-{
-    close();
-}
-
 void FormFactores::LeerEscalera(bool soloLeer)
 {
-    Factores = Escalera(TbDesco.Units(), 0).LeerDivisores();
-    if (soloLeer) {
-        return;
+    Factores = Escalera(TbDesco.Utf16Text(), 0).LeerDivisores();
+    if (!soloLeer) {
+        TbFactores.Text(reglas::ListaConAsteriscos(Factores));
     }
-    std::string texto;
-    for (const Entero16& factor : Factores) {
-        if (factor.Valor() < 2) {
-            break;
-        }
-        texto += std::to_string(factor.Valor()) + " * ";
-    }
-    // The last asterisk goes with one of its two blanks; the other one stays, on purpose.
-    TbFactores.Text(texto.substr(0, texto.size() - std::min<std::size_t>(texto.size(), 2)));
 }
 
 void FormFactores::BuscarPrimos()
 {
-    std::vector<int> primos;
-    for (int candidato = 2; candidato <= 1000; ++candidato) {
-        bool esPrimo = true;
-        for (int divisor = 2; divisor <= candidato / 2 && esPrimo; ++divisor) {
-            esPrimo = candidato % divisor != 0;
-        }
-        if (esPrimo) {
-            primos.push_back(candidato);
-        }
-    }
-    ui::MsgBox("Encontrados " + std::to_string(primos.size()) + " números primos");
+    ui::MsgBox("Encontrados " + std::to_string(reglas::BuscarPrimos(1000).size()) + " números primos");
 }
 
 void FormFactores::NuevaEscalera()
@@ -272,7 +225,7 @@ void FormFactores::NuevaEscalera()
 
 void FormFactores::SortearValor(int limite)
 {
-    TbValor.Text(ui::Draw(limite, 1));
+    TbValor.Text(numeros::Sortear(limite, 1));
 }
 
 // A value that does not fit is put back to the last one that did.
@@ -281,7 +234,7 @@ void FormFactores::LeerValor()
     if (const auto valor = Entero16::SiCabe(TbValor.Number())) {
         Valor = *valor;
     } else {
-        TbValor.Text(Valor.Valor());
+        TbValor.Text(Valor);
         TbValor.Refuse();
     }
 }
@@ -305,27 +258,22 @@ void FormFactores::Borrar()
 void FormFactores::VerSolucion()
 {
     LeerValor();
-    TbDesco.Edit(EscaleraDe(Valor), 0);
+    TbDesco.Edit(reglas::EscaleraDe(Valor), 0);
     LeerEscalera(false);
     TbFactores.SelectAll();
     puntuable = false;
 }
 
-// Every wrong answer counts again until the exercise is solved or its solution seen, on purpose.
+// Every wrong answer counts again until the exercise is solved or its solution seen.
 void FormFactores::Incorrecto(std::string_view motivo)
 {
-    Veredicto("Resultado incorrecto");
+    comun::EscribirOtraVezDelante(Text1, "Resultado incorrecto");
     ui::MsgBox(motivo);
     if (puntuable) {
         Ejercicios += 1;
         Errores += 1;
     }
     MostrarResultados();
-}
-
-void FormFactores::Veredicto(std::string_view veredicto)
-{
-    Text1.Text(lenguaje::ConBlancoDelanteSiRepite(veredicto, Text1.Text()));
 }
 
 void FormFactores::MostrarResultados()
@@ -335,7 +283,7 @@ void FormFactores::MostrarResultados()
 
 KeyResult FormFactores::Editar(const std::function<bool(Escalera&)>& tecla)
 {
-    Escalera escalera(TbDesco.Units(), TbDesco.SelStart());
+    Escalera escalera(TbDesco.Utf16Text(), TbDesco.SelStart());
     if (tecla(escalera)) {
         TbDesco.Edit(escalera.Texto(), escalera.Cursor());
     } else {

@@ -2,15 +2,14 @@
 // and of it only the divisors are read.
 #pragma once
 
-#include "Entero16.h"
+#include "Ejercicio.h"
 #include "Escalera.h"
-#include "Form.h"
 
 #include <functional>
 
 namespace ejercicios {
 
-class FormFactores final : public ui::Form
+class FormFactores final : public comun::Ejercicio
 {
 public:
     FormFactores();
@@ -22,15 +21,18 @@ private:
     void Form_Load() override;
     std::string Exercise() const override;
     void Command1_Click();
-    void Command2_Click(int Index);
-    ui::KeyResult TbDesco_KeyDown(int KeyCode);
+    void Command2_Click(int Index) override;
+    ui::KeyResult TbDesco_KeyDown(int KeyCode, int Shift);
     ui::KeyResult TbDesco_KeyPress(int KeyAscii);
     void TbDesco_Validate();
     void TbValor_GotFocus();
     void Text1_Validate();
     void MnuOpcValLis_Click(int Index);
     void MnuOpcInt_Click();
-    void MnuOpcSal_Click();
+
+    void Continuar() override;
+    void Borrar() override;
+    void VerSolucion() override;
 
     // Reads the divisors of the ladder into Factores, and shows them unless `soloLeer`.
     void LeerEscalera(bool soloLeer);
@@ -38,30 +40,24 @@ private:
     void NuevaEscalera();
     void SortearValor(int limite);
     void LeerValor();
-    void Continuar();
-    void Borrar();
-    void VerSolucion();
     void Incorrecto(std::string_view motivo);
-    void Veredicto(std::string_view veredicto);
     void MostrarResultados();
 
     // Lets a key do to the ladder what it does. Refused where a bar is in the way.
-    ui::KeyResult Editar(const std::function<bool(Escalera&)>& tecla);
+    ui::KeyResult Editar(const std::function<bool(reglas::Escalera&)>& tecla);
 
     ui::TextBox& TbValor = The<ui::TextBox>("TbValor");
-    ui::TextBox& TbDesco = The<ui::TextBox>("TbDesco");
+    ui::TextArea& TbDesco = The<ui::TextArea>("TbDesco");
     ui::TextBox& TbFactores = The<ui::TextBox>("TbFactores");
     ui::TextBox& Text1 = The<ui::TextBox>("Text1");
-    const ui::ControlArray<ui::Button> Command2 = All<ui::Button>("Command2");
     ui::TextBox& tbResultados = The<ui::TextBox>("tbResultados");
-    const ui::ControlArray<ui::MenuItem> MnuOpcValLis = All<ui::MenuItem>("MnuOpcValLis");
 
     numeros::Entero16 Valor;
     numeros::Entero16 OpcionValores = 2;
     numeros::Entero16 Ejercicios;
     numeros::Entero16 Errores;
     bool puntuable = true; // the exercise still counts
-    Divisores Factores;
+    reglas::Divisores Factores;
 };
 
 } // namespace ejercicios

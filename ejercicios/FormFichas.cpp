@@ -1,8 +1,10 @@
 #include "FormFichas.h"
 
+#include "Azar.h"
+#include "Clock.h"
+#include "Escribir.h"
+#include "Filas.h"
 #include "Keys.h"
-#include "Lectura.h"
-#include "Random.h"
 
 #include <algorithm>
 
@@ -18,7 +20,7 @@ using ui::KeyResult;
 using ui::Speaking;
 using ui::Typing;
 
-constexpr int numeroFichas = 25;
+constexpr int numeroFichas = reglas::Tablero::maximo;
 
 constexpr ui::ControlDesign Marco(int index, std::string_view caption, int left, Color color)
 {
@@ -30,11 +32,11 @@ constexpr ui::ControlDesign Marco(int index, std::string_view caption, int left,
             .color = color};
 }
 
-constexpr ui::ControlDesign Caja(int index, std::string_view says, std::string_view marco)
+constexpr ui::ControlDesign Caja(int index, std::string_view nombre, std::string_view marco)
 {
     return {.name = "TBFrac",
             .index = index,
-            .says = says,
+            .accessibleName = nombre,
             .place = {400, index % 2 == 0 ? 450 : 1150, 600, 500},
             .tab = 1 + index,
             .inside = marco,
@@ -49,10 +51,10 @@ constexpr ui::ControlDesign Raya(int index, std::string_view marco)
 }
 
 constexpr ui::ControlDesign fijos[]{
-    {.kind = MultiLine,
+    {.kind = TextArea,
      .name = "Text1",
      .text = "Expresa con una fracción la parte que representa cada color\r\n",
-     .says = "Instrucciones",
+     .accessibleName = "Instrucciones",
      .keys = "L repite el ejercicio. F4 dice el marcador.",
      .place = {250, 200, 4500, 800},
      .tab = 0},
@@ -69,17 +71,17 @@ constexpr ui::ControlDesign fijos[]{
     Caja(4, "Numerador verde", "Frame1(2)"),
     Raya(2, "Frame1(2)"),
     Caja(5, "Denominador verde", "Frame1(2)"),
-    ui::ButtonDesign("Command1", ui::noIndex, "&Hecho", {1500, 3000, 2000, 350}, 7, Color::Yellow),
+    comun::Hecho({1500, 3000, 2000, 350}, 7),
     {.name = "TBResultado",
-     .says = "Mensajes",
+     .accessibleName = "Mensajes",
      .place = {500, 3500, 4000, 400},
      .tab = 8,
      .speaking = Speaking::Spoken,
      .coloring = Coloring::Selection,
      .font = "Arial Narrow"},
-    ui::ButtonDesign("Command2", 0, "&Continuar", {1750, 4100, 1500, 350}, 9, Color::Cyan),
-    ui::ButtonDesign("Command2", 1, "&Borrar", {250, 4100, 1500, 350}, 10, Color::Green),
-    ui::ButtonDesign("Command2", 2, "&Ver solución", {3250, 4100, 1500, 350}, 11, Color::Red),
+    comun::BotonContinuar({1750, 4100, 1500, 350}, 9),
+    comun::BotonBorrar({250, 4100, 1500, 350}, 10),
+    comun::BotonVerSolucion({3250, 4100, 1500, 350}, 11),
     {.kind = Label,
      .name = "Label2",
      .text = "Ejercicios: 0. Errores: 0.",
@@ -94,6 +96,7 @@ constexpr auto controles = [] {
     auto* next = std::ranges::copy(fijos, todos.begin()).out;
     for (int i = 0; i <= numeroFichas; ++i) {
         *next = ui::ButtonDesign("CBFicha", i, "", {0, 0, 225, 225}, 12 + i, Color::Red);
+        next->accessibleName = "ficha";
         next++->inside = "Picture1";
     }
     for (ui::ControlDesign& control : todos) {
@@ -104,22 +107,42 @@ constexpr auto controles = [] {
     return todos;
 }();
 
+// How a token looks and what it says.
+struct Aspecto
+{
+    Color color;
+    std::string_view letra;
+    std::string_view nombre;
+};
+
+constexpr Aspecto AspectoDe(reglas::ColorFicha color)
+{
+    switch (color) {
+    case reglas::ColorFicha::Rojo:
+        return {Color::Red, "R", "ficha roja "};
+    case reglas::ColorFicha::Amarillo:
+        return {Color::Yellow, "A", "ficha amarilla "};
+    case reglas::ColorFicha::Verde:
+        break;
+    }
+    return {Color::Green, "V", "ficha verde "};
+}
+
 } // namespace
 
 FormFichas::FormFichas()
-    : Form({.name = "FormFichas",
-            .caption = "Expresa con fracciones",
-            .width = 9150,
-            .height = 6255,
-            .controls = controles})
+    : Ejercicio({.name = "FormFichas",
+                 .caption = "Expresa con fracciones",
+                 .width = 9150,
+                 .height = 6255,
+                 .controls = controles})
 {
-    The<ui::Button>("Command1").OnClick = [this](int) { Command1_Click(); };
-    Command2.OnClick(this, &FormFichas::Command2_Click);
+    OnClick("Command1", &FormFichas::Command1_Click);
 }
 
 void FormFichas::Form_Load()
 {
-    ui::Randomize(ui::TimerSeed());
+    numeros::Sembrar(ui::TimerSeed());
     CBFicha[numeroFichas].Visible(false);
     DibujarFichas(true);
 }
@@ -136,13 +159,13 @@ KeyResult FormFichas::Form_KeyDown(int KeyCode, int)
 
 void FormFichas::Command1_Click()
 {
-    const std::array<int, 6> solucion = Solucion();
+    const std::array<int, 6> solucion = m_tablero.Solucion();
     int aciertos = 0;
     for (const ui::TextBox& box : TBFrac) {
         aciertos += box.Number() == solucion.at(static_cast<std::size_t>(box.Index())) ? 1 : 0;
     }
     if (!resuelto) {
-        Ejercicios += 1; // with every check, right or wrong, on purpose
+        Ejercicios += 1; // with every check, right or wrong
     }
     std::string_view veredicto = "Respuesta correcta";
     if (aciertos == TBFrac.Count()) {
@@ -151,83 +174,56 @@ void FormFichas::Command1_Click()
         veredicto = aciertos == 0 ? "Respuesta incorrecta" : "Hay algunos valores incorrectos en la respuesta ";
         Errores += 1;
     }
-    TBResultado.Text(lenguaje::ConBlancoDelanteSiRepite(veredicto, TBResultado.Text()));
-    Label2.Caption("Ejercicios: " + std::to_string(Ejercicios.Valor()) +
-                   ". Errores: " + std::to_string(Errores.Valor()) + ".");
+    comun::EscribirOtraVezDelante(TBResultado, veredicto);
+    Label2.Caption(lenguaje::MarcadorDeFichas(Ejercicios.Valor(), Errores.Valor()));
 }
 
 void FormFichas::Command2_Click(int Index)
 {
-    constexpr std::array acciones{&FormFichas::Continuar, &FormFichas::VaciarRespuesta, &FormFichas::VerSolucion};
-    (this->*acciones.at(static_cast<std::size_t>(Index)))();
+    Ejercicio::Command2_Click(Index);
     TBFrac[0].SetFocus();
 }
 
 void FormFichas::DibujarFichas(bool nuevo)
 {
-    resuelto = false; // also where only the letters come or go, on purpose
+    resuelto = false; // also where only the letters come or go
     if (nuevo) {
-        NuevasCantidades();
+        m_tablero = reglas::Tablero::Sortear();
     }
     for (int i = 0; i < numeroFichas; ++i) {
         PonerFicha(i);
     }
-    Label1.Caption("Rojas: " + std::to_string(Rojas.Valor()) + "; Amarillas: " + std::to_string(Amarillas.Valor()) +
-                   "; Verdes: " + std::to_string(Verdes.Valor()) + "; Total: " + std::to_string(Total.Valor()) + ".");
+    const auto& [Columnas, Filas, Rojas, Amarillas, Verdes] = m_tablero;
+    Label1.Caption("Rojas: " + std::to_string(Rojas) + "; Amarillas: " + std::to_string(Amarillas) +
+                   "; Verdes: " + std::to_string(Verdes) + "; Total: " + std::to_string(m_tablero.Total()) + ".");
 }
 
-// A board of at least three tokens, and at least one of each colour.
-void FormFichas::NuevasCantidades()
-{
-    do {
-        Columnas = ui::Draw(5, 1);
-        Filas = ui::Draw(5, 1);
-        Total = Columnas * Filas;
-    } while (Total.Valor() < 3);
-    Rojas = ui::Draw(Total.Valor() - 2, 1);
-    Amarillas = ui::Draw((Total - Rojas).Valor() - 1, 1);
-    Verdes = Total - Rojas - Amarillas;
-}
-
-// Row by row: the red ones, the yellow ones, the green ones.
 void FormFichas::PonerFicha(int indice)
 {
     ui::Button& ficha = CBFicha[indice];
-    const int columnas = Columnas.Valor();
-    const bool seVe = indice < Total.Valor();
+    const bool seVe = indice < m_tablero.Total();
     ficha.Enabled(seVe);
     ficha.Visible(seVe);
     if (!seVe) {
         ficha.Move({Picture1.ScaleWidth(), Picture1.ScaleHeight(), 225, 225});
         return;
     }
-    ficha.Move(Picture1.Cell(columnas, Filas.Valor(), indice % columnas, indice / columnas));
+    const auto [columna, fila] = m_tablero.Celda(indice);
+    ficha.Move(Picture1.Cell(m_tablero.Columnas, m_tablero.Filas, columna, fila));
 
-    const Aspecto& aspecto = AspectoDe(indice);
+    const Aspecto aspecto = AspectoDe(m_tablero.ColorDe(indice));
     ficha.BackColor(aspecto.color);
     ficha.Caption(LetrasVisibles ? aspecto.letra : "");
-    ficha.Says(std::string(aspecto.nombre) + " " +
-               std::to_string(indice + 1)); // the colour is told with and without letters
-}
-
-const FormFichas::Aspecto& FormFichas::AspectoDe(int indice) const
-{
-    static constexpr Aspecto roja{Color::Red, "R", "ficha roja"};
-    static constexpr Aspecto amarilla{Color::Yellow, "A", "ficha amarilla"};
-    static constexpr Aspecto verde{Color::Green, "V", "ficha verde"};
-    if (indice < Rojas.Valor()) {
-        return roja;
-    }
-    return indice < (Rojas + Amarillas).Valor() ? amarilla : verde;
+    ficha.AccessibleName(std::string(aspecto.nombre) + std::to_string(indice + 1)); // the letters are not always there
 }
 
 void FormFichas::Continuar()
 {
     DibujarFichas(true);
-    VaciarRespuesta();
+    Borrar();
 }
 
-void FormFichas::VaciarRespuesta()
+void FormFichas::Borrar()
 {
     for (ui::TextBox& box : TBFrac) {
         box.Text("");
@@ -236,17 +232,11 @@ void FormFichas::VaciarRespuesta()
 
 void FormFichas::VerSolucion()
 {
-    const std::array<int, 6> solucion = Solucion();
+    const std::array<int, 6> solucion = m_tablero.Solucion();
     for (ui::TextBox& box : TBFrac) {
         box.Text(solucion.at(static_cast<std::size_t>(box.Index())));
     }
     resuelto = true;
-}
-
-std::array<int, 6> FormFichas::Solucion() const
-{
-    const int total = Total.Valor();
-    return {Rojas.Valor(), total, Amarillas.Valor(), total, Verdes.Valor(), total};
 }
 
 } // namespace ejercicios

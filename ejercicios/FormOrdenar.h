@@ -2,44 +2,35 @@
 // There is no score.
 #pragma once
 
-#include "Entero16.h"
-#include "Form.h"
-
-#include <array>
+#include "Ejercicio.h"
+#include "Ordenacion.h"
 
 namespace ejercicios {
 
-class FormOrdenar final : public ui::Form
+class FormOrdenar final : public comun::Ejercicio
 {
 public:
     FormOrdenar();
 
 private:
-    using Cuatro = std::array<numeros::Entero16, 4>;
-
     void Form_Load() override;
     std::string Exercise() const override;
     void Command1_Click(int Index);
     void CBHecho_Click();
-    void Command2_Click(int Index);
+    void Command2_Click(int Index) override;
 
+    void Continuar() override;
+    void Borrar() override;
+    void VerSolucion() override;
     void NuevaOrdenacion();
     void MostrarFracciones();
     std::string EnPalabras(int posicion) const;
     bool EstanOrdenadas() const;
-    void Borrar();
-    void VerSolucion();
-
-    // The numbers in which the four fractions differ.
-    Cuatro& Variables() { return MismoDenominador ? Numeradores : Denominadores; }
 
     const ui::ControlArray<ui::Button> Command1 = All<ui::Button>("Command1");
-    const ui::ControlArray<ui::Button> Command2 = All<ui::Button>("Command2");
     ui::TextBox& TBMensajes = The<ui::TextBox>("TBMensajes");
 
-    bool MismoDenominador = true; // or else the same numerator
-    Cuatro Numeradores;           // from left to right
-    Cuatro Denominadores;
+    reglas::Ordenacion m_ordenacion; // from left to right
 };
 
 } // namespace ejercicios

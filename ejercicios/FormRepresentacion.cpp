@@ -1,8 +1,11 @@
 #include "FormRepresentacion.h"
 
+#include "Azar.h"
+#include "Clock.h"
+#include "Escribir.h"
+#include "Filas.h"
 #include "Lectura.h"
-#include "Marcador.h"
-#include "Random.h"
+#include "Reparto.h"
 
 #include <algorithm>
 #include <array>
@@ -12,33 +15,31 @@ namespace ejercicios {
 namespace {
 
 using enum ui::Kind;
-using lenguaje::Variante;
-using numeros::Entero16;
 using ui::Alignment;
 using ui::Color;
 using ui::Coloring;
 using ui::Speaking;
 
-constexpr int numeroPartes = 10;
+constexpr int numeroPartes = reglas::maximoPartes;
 
-constexpr ui::ControlDesign Cifra(int index, std::string_view says, int top, int tab)
+constexpr ui::ControlDesign Cifra(int index, std::string_view nombre, int top, int tab)
 {
     return {.name = "Text2",
             .index = index,
             .text = "10",
-            .says = says,
+            .accessibleName = nombre,
             .place = {1750, top, 500, 500},
             .tab = tab,
             .alignment = Alignment::Center,
             .points = 20.25};
 }
 
-constexpr ui::ControlDesign Palabra(int index, std::string_view text, std::string_view says, int top, int tab)
+constexpr ui::ControlDesign Palabra(int index, std::string_view text, std::string_view nombre, int top, int tab)
 {
     return {.name = "Text3",
             .index = index,
             .text = text,
-            .says = says,
+            .accessibleName = nombre,
             .place = {2750, top, 2000, 500},
             .tab = tab,
             .speaking = Speaking::Spoken,
@@ -58,11 +59,11 @@ constexpr ui::ControlDesign Rotulo(int index, std::string_view text, int top, in
 }
 
 constexpr ui::ControlDesign fijos[]{
-    {.kind = MultiLine,
+    {.kind = TextArea,
      .name = "Text1",
      .text = "Escribe el número de partes a realizar y colorea las \r\n"
              "partes necesarias haciendo click en ellas.\r\n",
-     .says = "Instrucciones",
+     .accessibleName = "Instrucciones",
      .keys = "F4 dice el marcador.",
      .place = {250, 100, 6000, 700},
      .tab = 0},
@@ -75,43 +76,38 @@ constexpr ui::ControlDesign fijos[]{
     {.name = "Text4",
      .index = 1,
      .text = "0",
-     .says = "Partes coloreadas",
+     .accessibleName = "Partes coloreadas",
      .place = {4535, 2100, 715, 405},
      .tab = 8,
      .alignment = Alignment::Center},
     Rotulo(0, "&Partes en total:", 2600, 5),
     {.name = "Text4",
      .index = 0,
-     .says = "Partes en total",
+     .accessibleName = "Partes en total",
      .place = {4535, 2600, 715, 405},
      .tab = 6,
      .typing = ui::Typing::Editable,
      .alignment = Alignment::Center},
     {.kind = Picture, .name = "Picture1", .place = {1250, 3100, 4000, 2400}},
-    ui::ButtonDesign("Command1", ui::noIndex, "&Hecho", {2500, 5500, 1500, 495}, 20, Color::Yellow),
+    comun::Hecho({2500, 5500, 1500, 495}, 19),
     {.name = "Text5",
-     .says = "Mensajes",
+     .accessibleName = "Mensajes",
      .place = {2250, 6100, 2000, 500},
-     .tab = 21,
+     .tab = 20,
      .speaking = Speaking::Spoken,
      .coloring = Coloring::Selection,
      .points = 9.75},
-    ui::ButtonDesign("Command2", 0, "&Continuar", {2500, 6700, 1500, 500}, 22, Color::Cyan),
-    ui::ButtonDesign("Command2", 1, "&Borrar", {500, 6700, 1500, 500}, 23, Color::Green),
-    ui::ButtonDesign("Command2", 2, "&Ver solución", {4500, 6700, 1500, 500}, 24, Color::Red),
-    {.name = "tbResultados",
-     .text = "Ejercicios:  0; Errores:  0",
-     .says = "Marcador",
-     .place = {1750, 7500, 3000, 495},
-     .tab = 25,
-     .speaking = Speaking::Score},
+    comun::BotonContinuar({2500, 6700, 1500, 500}, 21),
+    comun::BotonBorrar({500, 6700, 1500, 500}, 22),
+    comun::BotonVerSolucion({4500, 6700, 1500, 500}, 23),
+    comun::LineaMarcador({1750, 7500, 3000, 495}, 24, 12),
 };
 
 constexpr auto controles = [] {
     std::array<ui::ControlDesign, std::size(fijos) + numeroPartes> todos;
     auto* next = std::ranges::copy(fijos, todos.begin()).out;
     for (int i = 0; i < numeroPartes; ++i) {
-        *next = ui::ButtonDesign("CbParte", i, "1", {0, 0, 1215, 495}, 10 + i, Color::Green);
+        *next = ui::ButtonDesign("CbParte", i, "1", {0, 0, 1215, 495}, 9 + i, Color::Green);
         next++->inside = "Picture1";
     }
     return todos;
@@ -123,45 +119,25 @@ constexpr ui::MenuDesign menus[]{
     {1, "MnuOpcSal", ui::noIndex, "&Salir Alt-F4"},
 };
 
-// Strips for 1, 2, 3, 5 and 7 parts, else two columns, and three for 9.
-constexpr int Columnas(int partes)
-{
-    switch (partes) {
-    case 4:
-    case 6:
-    case 8:
-    case 10:
-        return 2;
-    case 9:
-        return 3;
-    default:
-        return 1;
-    }
-}
-
 } // namespace
 
 FormRepresentacion::FormRepresentacion()
-    : Form({.name = "FormRepresentacion",
-            .caption = "Representación gráfica de fracciones",
-            .width = 6375,
-            .height = 8190,
-            .controls = controles,
-            .menus = menus})
+    : Ejercicio({.name = "FormRepresentacion",
+                 .caption = "Representación gráfica de fracciones",
+                 .width = 6375,
+                 .height = 8190,
+                 .controls = controles,
+                 .menus = menus})
 {
-    for (ui::TextBox& box : Text4) {
-        box.OnChange = [this](int Index) { Text4_Change(Index); };
-    }
-    CbParte.OnClick(this, &FormRepresentacion::CbParte_Click);
-    The<ui::Button>("Command1").OnClick = [this](int) { Command1_Click(); };
-    Command2.OnClick(this, &FormRepresentacion::Command2_Click);
-    The<ui::MenuItem>("MnuOpcLee").OnClick = [this](int) { MnuOpcLee_Click(); };
-    The<ui::MenuItem>("MnuOpcSal").OnClick = [this](int) { MnuOpcSal_Click(); };
+    OnChange("Text4", &FormRepresentacion::Text4_Change);
+    OnClick("CbParte", &FormRepresentacion::CbParte_Click);
+    OnClick("Command1", &FormRepresentacion::Command1_Click);
+    OnClick("MnuOpcLee", &FormRepresentacion::MnuOpcLee_Click);
 }
 
 void FormRepresentacion::Form_Load()
 {
-    ui::Randomize(ui::TimeOfDaySeed());
+    numeros::Sembrar(ui::TimeOfDaySeed());
     NuevaFraccion();
     CrearPartes();
     DistribuirPartes(numeroPartes);
@@ -172,14 +148,15 @@ void FormRepresentacion::CbParte_Click(int Index)
     const bool verde = CbParte[Index].Caption().find("erde") != std::string::npos;
     PonerParte(Index, verde);
     PartesColoreadas += verde ? 1 : -1;
-    Text4[1].Text(PartesColoreadas.Valor());
+    Text4[1].Text(PartesColoreadas);
     CbParte[Index].SayWith("partes coloreadas: " + Text4[1].Text());
 }
 
 // Only the two boxes are looked at, not which parts are red.
 void FormRepresentacion::Command1_Click()
 {
-    const bool correcta = Text4[0].Number() == Denominador.Valor() && Text4[1].Number() == Numerador.Valor();
+    const bool correcta =
+        Text4[0].Number() == m_fraccion.denominador.Valor() && Text4[1].Number() == m_fraccion.numerador.Valor();
     if (puntuable) {
         Ejercicios += 1;
         if (correcta) {
@@ -192,14 +169,7 @@ void FormRepresentacion::Command1_Click()
     if (correcta) {
         Command2[0].SetFocus();
     }
-    Text5.Text(lenguaje::ConBlancoSiRepite(correcta ? "Respuesta correcta" : "Respuesta incorrecta", Text5.Text()));
-}
-
-void FormRepresentacion::Command2_Click(int Index)
-{
-    constexpr std::array acciones{&FormRepresentacion::Continuar, &FormRepresentacion::Borrar,
-                                  &FormRepresentacion::VerSolucion};
-    (this->*acciones.at(static_cast<std::size_t>(Index)))();
+    comun::EscribirOtraVez(Text5, correcta ? "Respuesta correcta" : "Respuesta incorrecta");
 }
 
 // A correction runs this again inside itself; the outer run then finds the same value.
@@ -208,37 +178,26 @@ void FormRepresentacion::Text4_Change(int Index)
     if (Index != 0 || Text4[0].Number() == 0) {
         return;
     }
-    if (Text4[0].Number() < 0) {
-        Corregir(1);
-    }
-    if (!(Text4[0].Number() <= numeroPartes)) { // beyond all measure a number is not even greater
-        Corregir(numeroPartes);
+    if (const auto partes = reglas::PartesCorregidas(Text4[0].Number())) {
+        Corregir(*partes);
     }
     PonerPartes(0);
     PartesColoreadas = 0;
     Text4[1].Text("0");
-    DistribuirPartes(Entero16::Redondeado(Text4[0].Number()));
+    DistribuirPartes(numeros::Entero16::Redondeado(Text4[0].Number()));
 }
 
 void FormRepresentacion::MnuOpcLee_Click()
 {
-    Text3[0].Text(lenguaje::ConBlancoSiRepite(NumeradorEnLetras(), Text3[0].Text()));
-    Text3[1].Text(lenguaje::ConBlancoSiRepite(DenominadorEnLetras(), Text3[1].Text()));
-}
-
-void FormRepresentacion::MnuOpcSal_Click()
-{
-    close();
+    comun::EscribirOtraVez(Text3[0], NumeradorEnLetras());
+    comun::EscribirOtraVez(Text3[1], DenominadorEnLetras());
 }
 
 void FormRepresentacion::NuevaFraccion()
 {
-    const int a = ui::Draw(10, 1);
-    const int b = ui::Draw(9, 2);
-    Numerador = std::min(a, b);
-    Denominador = std::max(a, b);
-    Text2[0].Text(Numerador.Valor());
-    Text2[1].Text(Denominador.Valor());
+    m_fraccion = reglas::SortearFraccion();
+    Text2[0].Text(m_fraccion.numerador);
+    Text2[1].Text(m_fraccion.denominador);
     Text3[0].Text(NumeradorEnLetras());
     Text3[1].Text(DenominadorEnLetras());
 }
@@ -251,15 +210,15 @@ void FormRepresentacion::CrearPartes()
     }
 }
 
-void FormRepresentacion::DistribuirPartes(const Entero16& n)
+void FormRepresentacion::DistribuirPartes(const numeros::Entero16& n)
 {
-    const int partes = n.Valor();
-    const int columnas = Columnas(partes);
-    const int filas = partes / columnas;
-    for (int i = 0; i < numeroPartes; ++i) {
-        CbParte[i].Visible(i < partes);
-        if (i < partes) {
-            CbParte[i].Move(Picture1.Cell(columnas, filas, i / filas, i % filas));
+    const reglas::Rejilla rejilla = reglas::Repartir(n.Valor());
+    for (ui::Button& parte : CbParte) {
+        const bool seVe = parte.Index() < n.Valor();
+        parte.Visible(seVe);
+        if (seVe) {
+            const auto [columna, fila] = reglas::Celda(rejilla, parte.Index());
+            parte.Move(Picture1.Cell(rejilla.columnas, rejilla.filas, columna, fila));
         }
     }
 }
@@ -304,9 +263,9 @@ void FormRepresentacion::Borrar()
 
 void FormRepresentacion::VerSolucion()
 {
-    Text4[0].Text(Denominador.Valor());
-    PonerPartes(Numerador.Valor());
-    Text4[1].Text(Numerador.Valor());
+    Text4[0].Text(m_fraccion.denominador);
+    PonerPartes(m_fraccion.numerador.Valor());
+    Text4[1].Text(m_fraccion.numerador);
     Text4[0].SelectAll();
     Text4[1].SelectAll();
     puntuable = false;
@@ -315,12 +274,13 @@ void FormRepresentacion::VerSolucion()
 
 std::string FormRepresentacion::NumeradorEnLetras() const
 {
-    return lenguaje::EnLetrasSolo(Numerador.Valor());
+    return lenguaje::EnLetrasSolo(m_fraccion.numerador.Valor());
 }
 
 std::string FormRepresentacion::DenominadorEnLetras() const
 {
-    return lenguaje::EnLetras(Denominador.Valor(), true, Variante::Entera) + (Numerador.Valor() >= 2 ? "s" : "");
+    return lenguaje::DenominadorEnLetras(m_fraccion.numerador.Valor(), m_fraccion.denominador.Valor(),
+                                         {lenguaje::Variante::Entera, lenguaje::Singular::HastaUno});
 }
 
 } // namespace ejercicios

@@ -2,12 +2,12 @@
 // some of them. Whether a part is coloured is told by its caption and colour alone.
 #pragma once
 
-#include "Entero16.h"
-#include "Form.h"
+#include "Ejercicio.h"
+#include "Fraccion.h"
 
 namespace ejercicios {
 
-class FormRepresentacion final : public ui::Form
+class FormRepresentacion final : public comun::Ejercicio
 {
 public:
     FormRepresentacion();
@@ -16,10 +16,8 @@ private:
     void Form_Load() override;
     void CbParte_Click(int Index);
     void Command1_Click();
-    void Command2_Click(int Index);
     void Text4_Change(int Index);
     void MnuOpcLee_Click();
-    void MnuOpcSal_Click();
 
     void NuevaFraccion();
     void CrearPartes();
@@ -30,9 +28,9 @@ private:
     void PonerParte(int indice, bool roja);
     void PonerPartes(int rojas);
     void Corregir(int partes);
-    void Continuar();
-    void Borrar();
-    void VerSolucion();
+    void Continuar() override;
+    void Borrar() override;
+    void VerSolucion() override;
     std::string NumeradorEnLetras() const;
     std::string DenominadorEnLetras() const;
 
@@ -42,13 +40,11 @@ private:
     ui::Picture& Picture1 = The<ui::Picture>("Picture1");
     const ui::ControlArray<ui::Button> CbParte = All<ui::Button>("CbParte");
     ui::TextBox& Text5 = The<ui::TextBox>("Text5");
-    const ui::ControlArray<ui::Button> Command2 = All<ui::Button>("Command2");
     ui::TextBox& tbResultados = The<ui::TextBox>("tbResultados");
 
-    numeros::Entero16 Numerador;
-    numeros::Entero16 Denominador;
+    numeros::Fraccion m_fraccion;
     // The parts that clicks have turned red since the rectangle was divided. "Borrar", "Continuar" and "Ver solución"
-    // leave it alone, so that it may come apart from what is seen, on purpose.
+    // leave it alone, so that it may come apart from what is seen.
     numeros::Entero16 PartesColoreadas;
     numeros::Entero16 Ejercicios;
     numeros::Entero16 Errores;

@@ -1,34 +1,31 @@
 #include "FormSeries.h"
 
-#include "Cifras.h"
+#include "Azar.h"
+#include "Clock.h"
+#include "Filas.h"
 #include "Keys.h"
 #include "Lectura.h"
-#include "Random.h"
 
 #include <algorithm>
-#include <optional>
 
 namespace ejercicios {
 
 namespace {
 
 using enum ui::Kind;
-using numeros::Entero16;
+using reglas::terminos;
 using ui::Alignment;
 using ui::Checking;
-using ui::Color;
 using ui::KeyResult;
 using ui::Typing;
 using ui::Weight;
 
-constexpr int terminos = std::tuple_size_v<Serie>;
-
 // A numerator or denominator of a term. Eight columns and nine gaps share the width as two to one.
-constexpr ui::ControlDesign Termino(std::string_view name, int index, std::string_view says, int top, int tab)
+constexpr ui::ControlDesign Termino(std::string_view name, int index, std::string_view nombre, int top, int tab)
 {
     return {.name = name,
             .index = index,
-            .says = says,
+            .accessibleName = nombre,
             .place = {600 + index * 13000 / 9, top, 1000, 600},
             .tab = tab,
             .typing = Typing::Editable,
@@ -39,7 +36,7 @@ constexpr ui::ControlDesign Termino(std::string_view name, int index, std::strin
 constexpr ui::ControlDesign fijos[]{
     {.name = "TbInstruc",
      .text = "Completa la serie",
-     .says = "Instrucciones",
+     .accessibleName = "Instrucciones",
      .keys = "F3 repite el ejercicio. F4 dice el marcador.",
      .place = {3500, 200, 5000, 465},
      .tab = 0,
@@ -47,23 +44,18 @@ constexpr ui::ControlDesign fijos[]{
      .font = "Verdana",
      .points = 14.25,
      .weight = Weight::Bold},
-    ui::ButtonDesign("Command1", ui::noIndex, "&Hecho", {5250, 2800, 1500, 495}, 17, Color::Yellow),
+    comun::Hecho({5250, 2800, 1500, 495}, 17),
     {.name = "Text3",
-     .says = "Mensajes",
+     .accessibleName = "Mensajes",
      .place = {4500, 3450, 3000, 500},
      .tab = 18,
      .speaking = ui::Speaking::Spoken,
      .coloring = ui::Coloring::Selection,
      .alignment = Alignment::Center},
-    ui::ButtonDesign("Command2", 0, "&Continuar", {5250, 4100, 1500, 500}, 19, Color::Cyan),
-    ui::ButtonDesign("Command2", 1, "&Borrar", {3600, 4100, 1500, 500}, 20, Color::Green),
-    ui::ButtonDesign("Command2", 2, "&Ver solución", {6900, 4100, 1500, 500}, 21, Color::Red),
-    {.name = "tbResultados",
-     .text = "Ejercicios:  0; Errores:  0",
-     .says = "Marcador",
-     .place = {0, 5300, 3000, 495},
-     .tab = 22,
-     .speaking = ui::Speaking::Score},
+    comun::BotonContinuar({5250, 4100, 1500, 500}, 19),
+    comun::BotonBorrar({3600, 4100, 1500, 500}, 20),
+    comun::BotonVerSolucion({6900, 4100, 1500, 500}, 21),
+    comun::LineaMarcador({0, 5300, 3000, 495}, 22, 12),
 };
 
 constexpr auto controles = [] {
@@ -102,120 +94,71 @@ constexpr ui::MenuDesign menus[]{
     {1, "MnuOpcSal", ui::noIndex, "&Salir Alt - F4"},
 };
 
-// A number from 1 to `mayor`, or its negative, with equal chance.
-int ConSigno(int mayor)
-{
-    const int valor = ui::Draw(mayor, 1);
-    return ui::Rnd() < 0.5 ? -valor : valor;
-}
-
-// Numbers of one step, none below 1.
-Serie Aritmetica()
-{
-    const int paso = ConSigno(7);
-    const int inicio = paso < 0 ? ui::Draw(8, 0) - terminos * paso : ui::Draw(8, 1);
-    Serie serie;
-    for (int i = 0; i < terminos; ++i) {
-        serie[i] = inicio + i * paso;
-    }
-    return serie;
-}
-
-// Numbers of a step that itself changes by another step. `margen` times that one keeps a growing series off zero;
-// nothing where a number is negative all the same.
-std::optional<Serie> DePasoVariable(int margen)
-{
-    int paso = ConSigno(7);
-    const int cambio = ConSigno(5);
-    int termino =
-        paso < 0 ? ui::Draw(8, 0) - terminos * paso + 5 * std::abs(cambio) : ui::Draw(8, 1) + margen * std::abs(cambio);
-    Serie serie;
-    for (Entero16& valor : serie) {
-        if (termino < 0) {
-            return std::nullopt;
-        }
-        valor = termino;
-        termino += paso;
-        paso += cambio;
-    }
-    return serie;
-}
-
 } // namespace
 
 FormSeries::FormSeries()
-    : Form({.name = "FormSeries",
-            .caption = "Completa la serie",
-            .width = 12000,
-            .height = 5895,
-            .controls = controles,
-            .menus = menus})
+    : Ejercicio({.name = "FormSeries",
+                 .caption = "Completa la serie",
+                 .width = 12000,
+                 .height = 5895,
+                 .controls = controles,
+                 .menus = menus})
 {
-    for (ui::TextBox& box : Text1) {
-        box.OnChange = [this](int Index) { Text1_Change(Index); };
-        box.OnKeyPress = [this](int Index, int KeyAscii) { return Text1_KeyPress(Index, KeyAscii); };
-    }
-    for (ui::TextBox& box : Text2) {
-        box.OnChange = [this](int Index) { Text2_Change(Index); };
-        box.OnKeyPress = [this](int Index, int KeyAscii) { return Text2_KeyPress(Index, KeyAscii); };
-    }
-    The<ui::Button>("Command1").OnClick = [this](int) { Command1_Click(); };
-    Command2.OnClick(this, &FormSeries::Command2_Click);
-    MnuOpcDifLis.OnClick(this, &FormSeries::MnuOpcDifLis_Click);
-    MnuOpcTipLis.OnClick(this, &FormSeries::MnuOpcTipLis_Click);
-    The<ui::MenuItem>("MnuOpcSal").OnClick = [this](int) { MnuOpcSal_Click(); };
+    OnChange("Text1", &FormSeries::Text1_Change);
+    OnChange("Text2", &FormSeries::Text2_Change);
+    OnKeyPress("Text1", &FormSeries::Text1_KeyPress);
+    OnKeyPress("Text2", &FormSeries::Text2_KeyPress);
+    OnClick("Command1", &FormSeries::Command1_Click);
+    OnClick("MnuOpcDifLis", &FormSeries::MnuOpcDifLis_Click);
+    OnClick("MnuOpcTipLis", &FormSeries::MnuOpcTipLis_Click);
 }
 
 void FormSeries::Form_Load()
 {
-    ui::Randomize(ui::TimeOfDaySeed());
+    numeros::Sembrar(ui::TimeOfDaySeed());
     NuevaSerie(); // of level 1, so that there is one
 }
 
 std::string FormSeries::Exercise() const
 {
     std::string texto;
-    for (int i = 0; i < PosicionHueco.Valor(); ++i) {
+    for (int i = 0; i < PosicionHueco; ++i) {
         texto += (i == 0 ? "" : ", ") + EnPalabras(i);
     }
-    return texto + "; falta el término " + std::to_string(PosicionHueco.Valor() + 1);
+    return texto + "; falta el término " + std::to_string(PosicionHueco + 1);
 }
 
 // The term itself is asked for, not its value.
 void FormSeries::Command1_Click()
 {
-    const int k = PosicionHueco.Valor();
-    if (Text1[k].Number() == NumeradoresSerie.at(k).Valor() && Text2[k].Number() == DenominadoresSerie.at(k).Valor()) {
+    const auto [numerador, denominador] = m_serie.Termino(PosicionHueco);
+    if (Text1[PosicionHueco].Number() == numerador.Valor() && Text2[PosicionHueco].Number() == denominador.Valor()) {
         Text3.Text("Respuesta correcta");
         if (!solucionVista) {
-            Ejercicios += 1; // and again with every further check, on purpose
+            Ejercicios += 1; // and again with every further check
         }
         Command2[0].SetFocus();
     } else {
         Text3.Text("Respuesta incorrecta");
         Errores += 1;
     }
-    // The second padding is as many blanks as the number has digits, on purpose.
-    const std::string errores = std::to_string(Errores.Valor());
-    tbResultados.Text("Ejercicios: " + numeros::Alineado(Ejercicios.Valor(), 3) +
-                      "; Errores: " + std::string(errores.size(), ' ') + errores + ".");
+    tbResultados.Text(lenguaje::MarcadorDeSerie(Ejercicios.Valor(), Errores.Valor()));
 }
 
 void FormSeries::Command2_Click(int Index)
 {
-    constexpr std::array acciones{&FormSeries::Continuar, &FormSeries::Borrar, &FormSeries::VerSolucion};
-    (this->*acciones.at(static_cast<std::size_t>(Index)))();
-    Text1[PosicionHueco.Valor()].SetFocus();
+    Ejercicio::Command2_Click(Index);
+    Text1[PosicionHueco].SetFocus();
 }
 
 void FormSeries::Text1_Change(int Index)
 {
-    Proteger(Text1[Index], NumeradoresSerie);
+    Proteger(Text1[Index], m_serie.NumeradoresSerie);
 }
 
 void FormSeries::Text2_Change(int Index)
 {
-    Proteger(Text2[Index], DenominadoresSerie);
+    Proteger(Text2[Index], m_serie.DenominadoresSerie);
 }
 
 KeyResult FormSeries::Text1_KeyPress(int, int KeyAscii)
@@ -235,99 +178,54 @@ KeyResult FormSeries::Text2_KeyPress(int Index, int KeyAscii)
 
 void FormSeries::MnuOpcDifLis_Click(int Index)
 {
-    MnuOpcDifLis[Index].Check();
-    CodigoDificultad = 10 * (Index / 2 + 1) + Index % 2 + 1;
+    m_nivel = {Index / 2 + 1, Index % 2 == 1};
     solucionVista = false;
-    Text1[PosicionHueco.Valor()].SetFocus();
+    Text1[PosicionHueco].SetFocus();
 }
 
 void FormSeries::MnuOpcTipLis_Click(int Index)
 {
-    MnuOpcTipLis[Index].Check();
     SoloSeleccionado = Index == 0;
     NuevaSerie();
     TellExercise();
-    Text1[PosicionHueco.Valor()].SetFocus();
-}
-
-void FormSeries::MnuOpcSal_Click()
-{
-    close();
+    Text1[PosicionHueco].SetFocus();
 }
 
 void FormSeries::NuevaSerie()
 {
-    const int elegido = CodigoDificultad.Valor() / 10;
-    const int letra = CodigoDificultad.Valor() % 10;
-    if (SoloSeleccionado) {
-        GenerarSerie(elegido, letra);
-        return;
-    }
-    const int nivel = ui::Draw(elegido, 1);
-    GenerarSerie(nivel, nivel < elegido || letra == 2 ? ui::Draw(2, 1) : 1);
+    GenerarSerie(SoloSeleccionado ? m_nivel : reglas::SortearNivel(m_nivel));
 }
 
-// Where a term comes out negative there is no new series, and the one on view stays, on purpose.
-void FormSeries::GenerarSerie(int nivel, int subnivel)
+// Where there is none the one on view stays.
+void FormSeries::GenerarSerie(const reglas::Nivel& nivel)
 {
-    std::optional<Serie> a;
-    std::optional<Serie> b;
-    switch (nivel) {
-    case 1:
-        a.emplace().fill(ui::Draw(15, 1));
-        b = Aritmetica();
-        break;
-    case 2:
-        a = Aritmetica();
-        b = Aritmetica();
-        break;
-    case 3:
-        a = Aritmetica();
-        b = DePasoVariable(4);
-        break;
-    default:
-        a = DePasoVariable(0);
-        if (a) {
-            b = DePasoVariable(0);
-        }
-        break;
-    }
-    if (a && b) {
-        TerminosA = *a;
-        TerminosB = *b;
-        MostrarSerie(subnivel);
+    if (const auto serie = reglas::SortearSerie(nivel)) {
+        m_serie = *serie;
+        MostrarSerie();
     }
 }
 
-void FormSeries::MostrarSerie(int subnivel)
+void FormSeries::MostrarSerie()
 {
-    // Presentations 1 and 2: one run above the other throughout. 3 and 4: every second term upside down.
-    const int presentacion = subnivel == 0 ? ui::Draw(4, 1) : ui::Draw(2, 2 * subnivel - 1);
-    for (std::size_t i = 0; i < terminos; ++i) {
-        const bool deB = (presentacion % 2 == 0) != (presentacion > 2 && i % 2 == 1);
-        NumeradoresSerie.at(i) = (deB ? TerminosB : TerminosA).at(i);
-        DenominadoresSerie.at(i) = (deB ? TerminosA : TerminosB).at(i);
-    }
-    const int k = 3 + CodigoDificultad.Valor() / 10; // by the level chosen, not by the one drawn
-    PosicionHueco = k;
-    for (int i = 0; i < k; ++i) {
-        Text1[i].Text(NumeradoresSerie.at(i).Valor());
-        Text2[i].Text(DenominadoresSerie.at(i).Valor());
+    PosicionHueco = reglas::TerminosMostrados(m_nivel); // of the level chosen, not of the one drawn
+    for (int i = 0; i < PosicionHueco; ++i) {
+        Text1[i].Text(m_serie.Termino(i).numerador);
+        Text2[i].Text(m_serie.Termino(i).denominador);
     }
     Borrar();
     for (int i = 0; i < terminos; ++i) {
-        if (i == k + 1 && Text1[k].IsVisible()) { // not yet while the screen loads
-            Text1[k].SetFocus();                  // before the box in focus goes, and the focus wanders
+        if (i == PosicionHueco + 1 && Text1[PosicionHueco].IsVisible()) { // not yet while the screen loads
+            Text1[PosicionHueco].SetFocus(); // before the box in focus goes, and the focus wanders
         }
-        Text1[i].Visible(i <= k);
-        Text2[i].Visible(i <= k);
-        Line1[i].Visible(i <= k);
+        Text1[i].Visible(i <= PosicionHueco);
+        Text2[i].Visible(i <= PosicionHueco);
+        Line1[i].Visible(i <= PosicionHueco);
     }
 }
 
 std::string FormSeries::EnPalabras(int termino) const
 {
-    return lenguaje::FraccionEnLetras(NumeradoresSerie.at(termino).Valor(), DenominadoresSerie.at(termino).Valor());
+    return lenguaje::FraccionEnLetras(m_serie.Termino(termino));
 }
 
 void FormSeries::Continuar()
@@ -340,26 +238,26 @@ void FormSeries::Continuar()
 
 void FormSeries::Borrar()
 {
-    Text1[PosicionHueco.Valor()].Text("");
-    Text2[PosicionHueco.Valor()].Text("");
+    Text1[PosicionHueco].Text("");
+    Text2[PosicionHueco].Text("");
 }
 
 void FormSeries::VerSolucion()
 {
-    const int k = PosicionHueco.Valor();
+    const auto [numerador, denominador] = m_serie.Termino(PosicionHueco);
     Text3.Text("");
-    Text1[k].Text(NumeradoresSerie.at(k).Valor());
-    Text2[k].Text(DenominadoresSerie.at(k).Valor());
+    Text1[PosicionHueco].Text(numerador);
+    Text2[PosicionHueco].Text(denominador);
     solucionVista = true;
-    Tell(EnPalabras(k));
+    Tell(EnPalabras(PosicionHueco));
 }
 
-void FormSeries::Proteger(ui::TextBox& termino, const Serie& serie) const
+void FormSeries::Proteger(ui::TextBox& termino, const reglas::Numeros& numeros) const
 {
-    if (termino.Index() >= PosicionHueco.Valor()) {
+    if (termino.Index() >= PosicionHueco) {
         return;
     }
-    const std::string correcto = std::to_string(serie.at(termino.Index()).Valor());
+    const std::string correcto = std::to_string(numeros.at(static_cast<std::size_t>(termino.Index())));
     if (termino.Text() != correcto) {
         termino.Text(correcto);
         termino.Say(); // or else the key would sound as if it had done something

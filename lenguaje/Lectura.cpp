@@ -1,6 +1,21 @@
 #include "Lectura.h"
 
+#include <cmath>
+
 namespace lenguaje {
+
+bool EsSingular(double numerador, Singular singular)
+{
+    switch (singular) {
+    case Singular::Uno:
+        return numerador == 1;
+    case Singular::UnoConSigno:
+        return std::abs(numerador) == 1;
+    case Singular::HastaUno:
+        break;
+    }
+    return numerador <= 1;
+}
 
 std::string EnLetras(double valor, bool esDenominador, Variante variante)
 {
@@ -12,20 +27,46 @@ std::string EnLetrasSolo(double valor)
     return valor == 1 ? "uno" : EnLetras(valor, false, Variante::ConMenos);
 }
 
-std::string FraccionEnLetras(double numerador, double denominador, bool singular, Variante variante)
+std::string DenominadorEnLetras(double numerador, double denominador, Modo modo)
 {
-    std::string texto = EnLetras(numerador, false, variante);
-    texto += ' ';
-    texto += EnLetras(denominador, true, variante);
-    if (!singular) {
+    std::string texto = EnLetras(denominador, true, modo.variante);
+    if (!EsSingular(numerador, modo.singular)) {
         texto += 's';
     }
     return texto;
 }
 
-std::string FraccionEnLetras(int numerador, int denominador)
+std::string FraccionEnLetras(double numerador, double denominador, Modo modo)
 {
-    return FraccionEnLetras(numerador, denominador, numerador == 1, Variante::Base);
+    std::string texto = EnLetras(numerador, false, modo.variante);
+    texto += ' ';
+    texto += DenominadorEnLetras(numerador, denominador, modo);
+    return texto;
+}
+
+std::string FraccionEnLetras(const numeros::Fraccion& fraccion)
+{
+    return FraccionEnLetras(fraccion.numerador.Valor(), fraccion.denominador.Valor(), {});
+}
+
+std::string OperacionEnLetras(const std::array<double, 6>& valores, std::string_view signo, std::string_view igual,
+                              Modo modo)
+{
+    const auto [n1, d1, n2, d2, n3, d3] = valores;
+    std::string texto = FraccionEnLetras(n1, d1, modo).append(signo);
+    texto.append(FraccionEnLetras(n2, d2, modo)).append(igual);
+    if (n3 != 0 || d3 != 0) {
+        texto += FraccionEnLetras(n3, d3, modo);
+    }
+    return texto;
+}
+
+std::string FraccionDeCantidadEnLetras(const numeros::Fraccion& fraccion, numeros::Entero16 cantidad)
+{
+    constexpr Modo modo{Variante::Entera, Singular::HastaUno};
+    std::string texto = FraccionEnLetras(fraccion.numerador.Valor(), fraccion.denominador.Valor(), modo);
+    texto += fraccion.numerador >= 1 ? "  de " : " de ";
+    return texto + EnLetras(cantidad.Valor(), false, Variante::Entera);
 }
 
 std::string ConBlancoSiRepite(std::string texto, std::string_view contenido)

@@ -1,12 +1,30 @@
-// Readings for the ear: a fraction in words, and the blank that makes a repeated text a new one.
+// Readings for the ear: fractions, operations and fractions of quantities in words, and the blank that makes a repeated
+// text a new one.
 #pragma once
 
+#include "Fraccion.h"
 #include "Numerales.h"
 
+#include <array>
 #include <string>
 #include <string_view>
 
 namespace lenguaje {
+
+// The numerators with which the name of a fraction stands in the singular, without an "s" behind.
+enum class Singular {
+    Uno,         // 1 alone: "cero quintos", "menos un medios"
+    UnoConSigno, // 1 and -1: "menos un medio"
+    HastaUno,    // 1 and below: "cero quinto"
+};
+bool EsSingular(double numerador, Singular singular);
+
+// How a screen reads its fractions.
+struct Modo
+{
+    Variante variante = Variante::Base;
+    Singular singular = Singular::Uno;
+};
 
 // `valor` in words, as a denominator or not.
 std::string EnLetras(double valor, bool esDenominador, Variante variante);
@@ -14,11 +32,21 @@ std::string EnLetras(double valor, bool esDenominador, Variante variante);
 // `valor` in words where no noun follows: 1 is "uno".
 std::string EnLetrasSolo(double valor);
 
-// "tres cuartos", "un medio": numerator and denominator in words, with an "s" behind unless `singular`.
-std::string FraccionEnLetras(double numerador, double denominador, bool singular, Variante variante);
+// The name of the parts of which a fraction has `numerador`: "cuartos".
+std::string DenominadorEnLetras(double numerador, double denominador, Modo modo);
 
-// The same of whole numbers as the exercises give them: the plural goes by the numerator.
-std::string FraccionEnLetras(int numerador, int denominador);
+// "tres cuartos", "un medio".
+std::string FraccionEnLetras(double numerador, double denominador, Modo modo);
+std::string FraccionEnLetras(const numeros::Fraccion& fraccion);
+
+// "tres cuartos+un medio=": an operation of two fractions, with what stands between and behind them, and its result,
+// where that is not 0/0. The six numbers are the numerators and denominators in their order.
+std::string OperacionEnLetras(const std::array<double, 6>& valores, std::string_view signo, std::string_view igual,
+                              Modo modo);
+
+// "tres cuartos  de veinte". The name of the fraction, singular or plural, brings a blank of its own, so that there are
+// two before "de"; a fraction of nothing has no such blank.
+std::string FraccionDeCantidadEnLetras(const numeros::Fraccion& fraccion, numeros::Entero16 cantidad);
 
 // `texto`, with one blank behind where the box that is to receive it holds exactly that text already.
 std::string ConBlancoSiRepite(std::string texto, std::string_view contenido);

@@ -1,10 +1,12 @@
 // A 16-bit signed integer whose arithmetic is checked. Counters and option indexes are kept in it: leaving the range
-// -32768..32767 throws Desbordamiento, which ends the program (ui/Fatal.h).
+// -32768..32767 throws Desbordamiento, which ends the program (ui/Handlers.h).
 #pragma once
 
 #include <cstdint>
 #include <exception>
 #include <optional>
+
+#include <compare> // not before the others: moc of Qt 6.4 stumbles over it
 
 namespace numeros {
 
@@ -35,13 +37,12 @@ public:
     constexpr int Valor() const { return m_valor; }
 
     constexpr Entero16& operator+=(Entero16 otro) { return *this = *this + otro; }
-    constexpr Entero16& operator-=(Entero16 otro) { return *this = *this - otro; }
 
     friend constexpr Entero16 operator+(Entero16 a, Entero16 b) { return a.m_valor + b.m_valor; }
     friend constexpr Entero16 operator-(Entero16 a, Entero16 b) { return a.m_valor - b.m_valor; }
     friend constexpr Entero16 operator*(Entero16 a, Entero16 b) { return a.m_valor * b.m_valor; }
     friend constexpr Entero16 operator/(Entero16 a, Entero16 b) { return a.m_valor / b.m_valor; } // `b` is not 0
-    friend constexpr bool operator==(Entero16 a, Entero16 b) { return a.m_valor == b.m_valor; }
+    friend constexpr auto operator<=>(Entero16 a, Entero16 b) = default;
 
 private:
     static constexpr std::int16_t Comprobado(int valor)

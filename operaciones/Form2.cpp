@@ -8,9 +8,14 @@ Form2::Form2()
 {
 }
 
-numeros::Entero16 Form2::Operar(numeros::Entero16 primero, numeros::Entero16 segundo) const
+Operandos Form2::SortearOperandos(int limite) const
 {
-    return primero + segundo;
+    return reglas::SortearSumandos(limite, MismoDenominador);
+}
+
+Fraccion Form2::CalcularSolucion() const
+{
+    return reglas::Sumar(LeerOperandos());
 }
 
 } // namespace operaciones

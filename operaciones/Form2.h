@@ -11,7 +11,8 @@ public:
     Form2();
 
 private:
-    numeros::Entero16 Operar(numeros::Entero16 primero, numeros::Entero16 segundo) const override;
+    Operandos SortearOperandos(int limite) const override;
+    Fraccion CalcularSolucion() const override;
     void RespuestaIncorrecta() override {}
 };
 

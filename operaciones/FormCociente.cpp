@@ -4,7 +4,7 @@ namespace operaciones {
 
 namespace {
 
-constexpr auto menus = Menus<0>({}, "&Combinaciones de teclas");
+constexpr auto menus = MenusCon<0>({}, "&Combinaciones de teclas");
 
 } // namespace
 
@@ -15,7 +15,7 @@ FormCociente::FormCociente()
 
 Fraccion FormCociente::CalcularSolucion() const
 {
-    return {Numero(0) * Numero(3), Numero(1) * Numero(2)};
+    return reglas::Dividir(LeerOperandos());
 }
 
 void FormCociente::Borrar()

@@ -1,5 +1,4 @@
-// What the sum and the difference share: one denominator or two, as the pupil chooses, and a solution over a common
-// one.
+// What the sum and the difference share: one denominator or two, as the pupil chooses.
 #pragma once
 
 #include "FormOperacion.h"
@@ -11,18 +10,10 @@ class FormDenominadores : public FormOperacion
 protected:
     explicit FormDenominadores(const Operacion& operacion);
 
-    void NuevosOperandos(int limite) override;
-    Fraccion CalcularSolucion() const final;
-
-    // The numerator of the result, of the operands' numerators over one denominator.
-    virtual numeros::Entero16 Operar(numeros::Entero16 primero, numeros::Entero16 segundo) const = 0;
+    bool MismoDenominador = true;
 
 private:
     void MnuOpcDenLis_Click(int Index);
-
-    const ui::ControlArray<ui::MenuItem> MnuOpcDenLis = All<ui::MenuItem>("MnuOpcDenLis");
-
-    bool MismoDenominador = true;
 };
 
 } // namespace operaciones

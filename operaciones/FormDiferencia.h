@@ -12,10 +12,9 @@ public:
     FormDiferencia();
 
 private:
-    void NuevosOperandos(int limite) override;
-    numeros::Entero16 Operar(numeros::Entero16 primero, numeros::Entero16 segundo) const override;
+    Operandos SortearOperandos(int limite) const override;
+    Fraccion CalcularSolucion() const override;
     void RespuestaIncorrecta() override;
-    bool EsSingular(double numerador) const override;
 };
 
 } // namespace operaciones

@@ -1,142 +1,50 @@
 #include "FormOperacion.h"
 
+#include "Azar.h"
+#include "Clock.h"
+#include "Controles.h"
 #include "Dialogs.h"
+#include "Escribir.h"
 #include "Keys.h"
-#include "Lectura.h"
-#include "Marcador.h"
-#include "Random.h"
-
-#include <cmath>
 
 namespace operaciones {
 
-namespace {
-
-using enum ui::Kind;
-using ui::Alignment;
-using ui::Color;
-using ui::Coloring;
 using ui::KeyResult;
-using ui::Speaking;
-using ui::Typing;
 
-constexpr ui::ControlDesign Caja(int index, std::string_view says, int left, int top, int tab, Typing typing)
-{
-    return {.name = "Text1",
-            .index = index,
-            .says = says,
-            .place = {left, top, 600, 555},
-            .tab = tab,
-            .typing = typing,
-            .alignment = Alignment::Center,
-            .points = 15};
-}
-
-constexpr ui::ControlDesign Signo(int index, std::string_view text, std::string_view says, int left, int tab)
-{
-    return {.name = "Text2",
-            .index = index,
-            .text = text,
-            .says = says,
-            .place = {left, 800, 600, 555},
-            .tab = tab,
-            .alignment = Alignment::Center,
-            .points = 15};
-}
-
-constexpr ui::ControlDesign Raya(int index, int left)
-{
-    return {.kind = Line, .name = "Line1", .index = index, .place = {left, 1060, 600, 30}};
-}
-
-// The lower buttons cover the foot of "&Hecho" and the head of the verdict box.
-constexpr ui::ControlDesign controles[]{
-    Caja(0, "Numerador de la primera fracción", 500, 500, 0, Typing::Locked),
-    Caja(1, "Denominador de la primera fracción", 500, 1100, 1, Typing::Locked),
-    Signo(0, "", "Signo de la operación", 1400, 2),
-    Caja(2, "Numerador de la segunda fracción", 2455, 500, 3, Typing::Locked),
-    Caja(3, "Denominador de la segunda fracción", 2455, 1100, 4, Typing::Locked),
-    Signo(1, "=", "Signo igual", 3355, 5),
-    Caja(4, "Numerador del resultado", 4210, 500, 6, Typing::Editable),
-    Caja(5, "Denominador del resultado", 4210, 1100, 7, Typing::Editable),
-    Raya(0, 500),
-    Raya(1, 2455),
-    Raya(2, 4210),
-    {.kind = Button,
-     .name = "Command1",
-     .text = "&Hecho",
-     .place = {1650, 2100, 1500, 495},
-     .tab = 8,
-     .color = Color::Yellow,
-     .coveredBottom = 95},
-    {.name = "Text3",
-     .says = "Resultado",
-     .place = {900, 2800, 3000, 500},
-     .tab = 9,
-     .speaking = Speaking::Spoken,
-     .coloring = Coloring::Selection,
-     .alignment = Alignment::Center,
-     .coveredTop = 200},
-    ui::ButtonDesign("Command2", 0, "&Continuar", {1650, 2500, 1500, 500}, 10, Color::Cyan),
-    ui::ButtonDesign("Command2", 1, "&Borrar", {75, 2500, 1500, 500}, 11, Color::Green),
-    ui::ButtonDesign("Command2", 2, "&Ver solución", {3225, 2500, 1500, 500}, 12, Color::Red),
-    {.name = "TbMensajes", .says = "Mensajes", .place = {0, 3500, 4800, 495}, .tab = 13, .speaking = Speaking::Spoken},
-    {.name = "tbResultados",
-     .text = "Ejercicios:  0; Errores:  0",
-     .says = "Marcador",
-     .place = {900, 4500, 3000, 495},
-     .tab = 14,
-     .speaking = Speaking::Score,
-     .points = 10.5},
-};
-
-} // namespace
-
-FormOperacion::FormOperacion(const Operacion& operacion, std::span<const ui::MenuDesign> menus)
-    : Form({.name = operacion.name,
-            .caption = operacion.caption,
-            .width = 4885,
-            .height = 5200,
-            .controls = controles,
-            .menus = menus,
-            .keys = "F4 dice el marcador."}),
+FormOperacion::FormOperacion(const Operacion& operacion, ui::Menus menus)
+    : Ejercicio({.name = operacion.name,
+                 .caption = operacion.caption,
+                 .width = 4885,
+                 .height = 5200,
+                 .controls = controles,
+                 .menus = menus,
+                 .keys = "F4 dice el marcador."}),
       m_operacion(operacion)
 {
     Text2[0].Text(operacion.signo);
-    for (ui::TextBox& box : Text1) {
-        box.OnKeyPress = [this](int Index, int KeyAscii) { return Text1_KeyPress(Index, KeyAscii); };
-    }
-    The<ui::Button>("Command1").OnClick = [this](int) { Command1_Click(); };
-    Command2.OnClick(this, &FormOperacion::Command2_Click);
-    MnuOpcCanLis.OnClick(this, &FormOperacion::MnuOpcCanLis_Click);
-    The<ui::MenuItem>("MnuOpcTec").OnClick = [this](int) { MnuOpcTec_Click(); };
-    The<ui::MenuItem>("MnuOpcSal").OnClick = [this](int) { MnuOpcSal_Click(); };
+    OnKeyPress("Text1", &FormOperacion::Text1_KeyPress);
+    OnClick("Command1", &FormOperacion::Command1_Click);
+    OnClick("MnuOpcCanLis", &FormOperacion::MnuOpcCanLis_Click);
+    OnClick("MnuOpcTec", &FormOperacion::MnuOpcTec_Click);
 }
 
 void FormOperacion::Form_Load()
 {
-    ui::Randomize(ui::TimerSeed());
+    numeros::Sembrar(ui::TimerSeed());
     NuevoEjercicio();
 }
 
 void FormOperacion::Command1_Click()
 {
     const bool correcto = EsCorrecto();
-    const std::string_view veredicto = correcto ? "Resultado correcto " : m_operacion.incorrecto;
-    Text3.Text(lenguaje::ConBlancoSiRepite(std::string(veredicto), Text3.Text()));
+    comun::EscribirOtraVez(Text3, correcto ? "Resultado correcto " : m_operacion.incorrecto);
     Contar(correcto);
-    MostrarResultados();
+    tbResultados.Text(lenguaje::Marcador(Ejercicios.Valor(), Errores.Valor()));
     if (correcto) {
         Command2[0].SetFocus();
     } else {
         RespuestaIncorrecta();
     }
-}
-
-void FormOperacion::Command2_Click(int Index)
-{
-    constexpr std::array acciones{&FormOperacion::Continuar, &FormOperacion::Borrar, &FormOperacion::VerSolucion};
-    (this->*acciones.at(static_cast<std::size_t>(Index)))();
 }
 
 KeyResult FormOperacion::Text1_KeyPress(int, int KeyAscii)
@@ -170,7 +78,6 @@ KeyResult FormOperacion::Form_KeyDown(int KeyCode, int Shift)
 
 void FormOperacion::MnuOpcCanLis_Click(int Index)
 {
-    MnuOpcCanLis[Index].Check();
     OpcionCantidad = Index;
 }
 
@@ -183,24 +90,21 @@ void FormOperacion::MnuOpcTec_Click()
                "Combinaciones de teclas");
 }
 
-void FormOperacion::MnuOpcSal_Click()
-{
-    close();
-}
-
 void FormOperacion::NuevoEjercicio()
 {
     constexpr std::array limites{10, 20, 100};
-    NuevosOperandos(limites.at(static_cast<std::size_t>(OpcionCantidad.Valor())));
+    const auto [primero, segundo] = SortearOperandos(limites.at(static_cast<std::size_t>(OpcionCantidad.Valor())));
+    Text1[0].Text(primero.numerador);
+    Text1[1].Text(primero.denominador);
+    Text1[2].Text(segundo.numerador);
+    Text1[3].Text(segundo.denominador);
     VaciarResultado();
     LeerOperacion();
 }
 
-void FormOperacion::NuevosOperandos(int limite)
+Operandos FormOperacion::SortearOperandos(int limite) const
 {
-    for (int i = 0; i < 4; ++i) {
-        Text1[i].Text(ui::Draw(limite - 1, 2));
-    }
+    return reglas::SortearOperandos(limite);
 }
 
 void FormOperacion::Continuar()
@@ -237,26 +141,23 @@ void FormOperacion::VaciarResultado()
 void FormOperacion::EscribirSolucion()
 {
     const Fraccion solucion = CalcularSolucion();
-    Text1[4].Text(solucion.numerador.Valor());
-    Text1[5].Text(solucion.denominador.Valor());
+    Text1[4].Text(solucion.numerador);
+    Text1[5].Text(solucion.denominador);
     TbMensajes.Text(LeerFraccion(2));
     Pendiente = false; // an exercise whose solution was seen is never counted
 }
 
-numeros::Entero16 FormOperacion::Numero(int indice) const
+Operandos FormOperacion::LeerOperandos() const
 {
-    return numeros::Entero16::Redondeado(Text1[indice].Number());
+    const auto numero = [this](int indice) { return numeros::Entero16::Redondeado(Text1[indice].Number()); };
+    return {Fraccion{numero(0), numero(1)}, Fraccion{numero(2), numero(3)}};
 }
 
-// Any fraction of the same value is right, and so is 0/0: the cross product alone decides.
 bool FormOperacion::EsCorrecto() const
 {
     const Fraccion solucion = CalcularSolucion();
-    if (Text1[4].Text().empty() || Text1[5].Text().empty()) {
-        return false;
-    }
-    const double cruzado = Text1[4].Number() * solucion.denominador.Valor();
-    return std::isfinite(cruzado) && cruzado == solucion.numerador.Valor() * Text1[5].Number();
+    return !Text1[4].Text().empty() && !Text1[5].Text().empty() &&
+           reglas::EsEquivalente(Text1[4].Number(), Text1[5].Number(), solucion);
 }
 
 // A wrong answer leaves the exercise pending, so each further one counts as an exercise and an error more.
@@ -273,45 +174,34 @@ void FormOperacion::Contar(bool correcto)
     }
 }
 
-void FormOperacion::MostrarResultados()
-{
-    tbResultados.Text(lenguaje::Marcador(Ejercicios.Valor(), Errores.Valor()));
-}
-
 std::string FormOperacion::LeerFraccion(int indice)
 {
     if (indice >= 0) {
-        return EnPalabras(indice, EsSingular(Text1[2 * indice].Number()));
+        return EnPalabras(indice, m_operacion.modo);
     }
     const ui::Control* foco = ActiveControl();
     if (foco == nullptr || foco->Name() != "Text1") {
         TbMensajes.Text("No hay ninguna fracción seleccionada");
     } else {
-        // With the reading key only a numerator of 1 is singular, on every screen: -1/2 is "menos un medios" here, on
-        // purpose.
-        const int fraccion = foco->Index() / 2;
-        const bool singular = Text1[2 * fraccion].Number() == 1;
-        TbMensajes.Text(lenguaje::ConBlancoSiRepite(EnPalabras(fraccion, singular), TbMensajes.Text()));
+        // With the reading key only a numerator of 1 is singular, on every screen: -1/2 is "menos un medios" here.
+        comun::EscribirOtraVez(TbMensajes,
+                               EnPalabras(foco->Index() / 2, {m_operacion.modo.variante, lenguaje::Singular::Uno}));
     }
     return {};
 }
 
-std::string FormOperacion::EnPalabras(int fraccion, bool singular) const
+std::string FormOperacion::EnPalabras(int fraccion, lenguaje::Modo modo) const
 {
-    return lenguaje::FraccionEnLetras(Text1[2 * fraccion].Number(), Text1[2 * fraccion + 1].Number(), singular,
-                                      m_operacion.variante);
+    return lenguaje::FraccionEnLetras(Text1[2 * fraccion].Number(), Text1[2 * fraccion + 1].Number(), modo);
 }
 
 void FormOperacion::LeerOperacion()
 {
-    std::string texto(BlancoInicial());
-    texto += LeerFraccion(0);
-    texto += m_operacion.signoLeido.empty() ? Text2[0].Text() : std::string(m_operacion.signoLeido);
-    texto += LeerFraccion(1) + Text2[1].Text();
-    if (Text1[4].Number() != 0 || Text1[5].Number() != 0) {
-        texto += LeerFraccion(2);
-    }
-    TbMensajes.Text(texto);
+    std::array<double, 6> valores{};
+    std::ranges::transform(Text1, valores.begin(), &ui::TextBox::Number);
+    const std::string signo = m_operacion.signoLeido.empty() ? Text2[0].Text() : std::string(m_operacion.signoLeido);
+    TbMensajes.Text(std::string(BlancoInicial()) +
+                    lenguaje::OperacionEnLetras(valores, signo, Text2[1].Text(), m_operacion.modo));
 }
 
 std::string_view FormOperacion::BlancoInicial() const

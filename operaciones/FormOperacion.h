@@ -2,14 +2,17 @@
 // screen says what its solution is, and overrides what it does in a way of its own.
 #pragma once
 
-#include "Entero16.h"
-#include "Form.h"
-#include "Numerales.h"
+#include "Ejercicio.h"
+#include "Lectura.h"
+#include "Operaciones.h"
 
 #include <algorithm>
 #include <array>
 
 namespace operaciones {
+
+using reglas::Fraccion;
+using reglas::Operandos;
 
 // What a screen of this kind is, as data.
 struct Operacion
@@ -19,19 +22,13 @@ struct Operacion
     std::string_view signo;
     std::string_view signoLeido = {}; // what the reading of the operation says instead of the sign
     std::string_view incorrecto = "Resultado incorrecto ";
-    lenguaje::Variante variante = lenguaje::Variante::Base;
-};
-
-struct Fraccion
-{
-    numeros::Entero16 numerador;
-    numeros::Entero16 denominador;
+    lenguaje::Modo modo = {}; // of the readings
 };
 
 // The menus of these screens: the ranges, the screen's own entries, the key help under its caption, the way out.
 template <std::size_t Count = 0>
-consteval auto Menus(const std::array<ui::MenuDesign, Count>& propias = {},
-                     std::string_view teclas = "&Combinaciones de teclas...")
+consteval auto MenusCon(const std::array<ui::MenuDesign, Count>& propios = {},
+                        std::string_view teclas = "&Combinaciones de teclas...")
 {
     constexpr std::array<ui::MenuDesign, 5> rangos{{
         {0, "MnuOpc", ui::noIndex, "&Opciones"},
@@ -45,79 +42,70 @@ consteval auto Menus(const std::array<ui::MenuDesign, Count>& propias = {},
         {1, "MnuOpcSal", ui::noIndex, "&Salir (Alt - F4)"},
     }};
     std::array<ui::MenuDesign, rangos.size() + Count + finales.size()> menus;
-    std::ranges::copy(finales, std::ranges::copy(propias, std::ranges::copy(rangos, menus.begin()).out).out);
+    std::ranges::copy(finales, std::ranges::copy(propios, std::ranges::copy(rangos, menus.begin()).out).out);
     return menus;
 }
 
-class FormOperacion : public ui::Form
+class FormOperacion : public comun::Ejercicio
 {
 protected:
-    // `menus` outlive the screen.
-    FormOperacion(const Operacion& operacion, std::span<const ui::MenuDesign> menus);
+    FormOperacion(const Operacion& operacion, ui::Menus menus);
 
     void Form_Load() override;
     ui::KeyResult Form_KeyDown(int KeyCode, int Shift) override;
 
-    // The result of the operation on the operand boxes, not simplified.
-    virtual Fraccion CalcularSolucion() const = 0;
-
-    // Fills the four operand boxes in their order; by default with numbers drawn from 2 to `limite`.
-    virtual void NuevosOperandos(int limite);
-
     // By default Enter checks the answer.
     virtual ui::KeyResult Text1_KeyPress(int Index, int KeyAscii);
+
+    // The result of the operation on what the operand boxes hold, not simplified.
+    virtual Fraccion CalcularSolucion() const = 0;
+
+    // New operands, of numbers up to `limite`; by default any from 2 on.
+    virtual Operandos SortearOperandos(int limite) const;
 
     // What a wrong answer brings besides its verdict and its counting; by default the focus goes to the result.
     virtual void RespuestaIncorrecta();
 
     // Empty and fill the result boxes; by default they put the focus there too.
-    virtual void Borrar();
-    virtual void VerSolucion();
-
-    // Whether a fraction of this numerator is named without the "s" of the plural.
-    virtual bool EsSingular(double numerador) const { return numerador == 1; }
+    void Borrar() override;
+    void VerSolucion() override;
 
     // What the reading of the operation begins with: a blank, or none if the message line begins with one, so that
     // the same operation is a new text each time.
     virtual std::string_view BlancoInicial() const;
 
-    // The number of a fraction box, rounded to a whole number.
-    numeros::Entero16 Numero(int indice) const;
+    // What the operand boxes hold, rounded to whole numbers.
+    Operandos LeerOperandos() const;
 
     void VaciarResultado();
     void EscribirSolucion();
 
-    const ui::ControlArray<ui::TextBox> Text1 = All<ui::TextBox>("Text1");
     ui::TextBox& Text3 = The<ui::TextBox>("Text3");
 
 private:
     void Command1_Click();
-    void Command2_Click(int Index);
     void MnuOpcCanLis_Click(int Index);
     void MnuOpcTec_Click();
-    void MnuOpcSal_Click();
 
     void NuevoEjercicio();
-    void Continuar();
+    void Continuar() final;
     bool EsCorrecto() const;
     void Contar(bool correcto);
-    void MostrarResultados();
 
     // The words of fraction 0, 1 or 2. With -1, writes those of the fraction that has the focus into the message line
     // and returns nothing.
     std::string LeerFraccion(int indice);
-    std::string EnPalabras(int fraccion, bool singular) const;
+    std::string EnPalabras(int fraccion, lenguaje::Modo modo) const;
     void LeerOperacion();
 
     ui::KeyResult MoverDerecha();
     ui::KeyResult MoverIzquierda();
     ui::KeyResult MoverA(int indice);
 
+    const ui::ControlArray<ui::TextBox> Text1 = All<ui::TextBox>("Text1");
     const ui::ControlArray<ui::TextBox> Text2 = All<ui::TextBox>("Text2");
     ui::TextBox& TbMensajes = The<ui::TextBox>("TbMensajes");
     ui::TextBox& tbResultados = The<ui::TextBox>("tbResultados");
-    const ui::ControlArray<ui::Button> Command2 = All<ui::Button>("Command2");
-    const ui::ControlArray<ui::MenuItem> MnuOpcCanLis = All<ui::MenuItem>("MnuOpcCanLis");
 
     const Operacion m_operacion;
 

@@ -4,7 +4,7 @@ namespace operaciones {
 
 namespace {
 
-constexpr auto menus = Menus();
+constexpr auto menus = MenusCon();
 
 } // namespace
 
@@ -16,7 +16,7 @@ FormProducto::FormProducto()
 
 Fraccion FormProducto::CalcularSolucion() const
 {
-    return {Numero(0) * Numero(2), Numero(1) * Numero(3)};
+    return reglas::Multiplicar(LeerOperandos());
 }
 
 ui::KeyResult FormProducto::Text1_KeyPress(int Index, int KeyAscii)

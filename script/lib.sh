@@ -1,6 +1,9 @@
 # Shared by the scripts: packages, builds and one clear line where something goes wrong. To be sourced by bash from the
 # top of the project.
 
+# Those of the program.
+folders=($(sed -n 's/^add_subdirectory(\(.*\))$/\1/p' CMakeLists.txt))
+
 # What makes the next run quicker and is never needed.
 cache=${XDG_CACHE_HOME:-${HOME:-/nonexistent}/.cache}/kelvora
 mkdir -p "$cache" 2>/dev/null || cache=$(mktemp -d)

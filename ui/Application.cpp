@@ -1,18 +1,41 @@
 #include "Application.h"
 
 #include "Accessible.h"
+#include "Announcer.h"
+#include "KeyOrder.h"
 #include "Look.h"
 
+#include <QApplication>
 #include <QIcon>
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QThread>
+#include <QTranslator>
 
 #include <cstdlib>
 
 namespace ui {
 
-Application::Application(int& argc, char** argv) : QApplication(argc, argv)
+class Application::Dispatch final : public QApplication
+{
+public:
+    Dispatch(int& argc, char** argv);
+
+    bool notify(QObject* receiver, QEvent* event) override;
+
+protected:
+    bool event(QEvent* event) override;
+
+private:
+    void MakeSelectionLegible();
+
+    KeyOrder m_keys;
+    int m_depth = 0;
+    Announcer m_announcer;
+    QTranslator m_translator;
+};
+
+Application::Dispatch::Dispatch(int& argc, char** argv) : QApplication(argc, argv)
 {
     setApplicationName("Kelvora");
     setDesktopFileName("org.kelvora.kelvora");
@@ -29,7 +52,7 @@ Application::Application(int& argc, char** argv) : QApplication(argc, argv)
     MakeSelectionLegible();
 }
 
-bool Application::event(QEvent* event)
+bool Application::Dispatch::event(QEvent* event)
 {
     const bool handled = QApplication::event(event);
     if (event->type() == QEvent::ApplicationPaletteChange) {
@@ -38,7 +61,7 @@ bool Application::event(QEvent* event)
     return handled;
 }
 
-bool Application::notify(QObject* receiver, QEvent* event)
+bool Application::Dispatch::notify(QObject* receiver, QEvent* event)
 {
     if (receiver->thread() != thread()) { // Qt has threads of its own
         return QApplication::notify(receiver, event);
@@ -57,7 +80,7 @@ bool Application::notify(QObject* receiver, QEvent* event)
 }
 
 // Most themes have white type on a light blue that it can hardly be read on.
-void Application::MakeSelectionLegible()
+void Application::Dispatch::MakeSelectionLegible()
 {
     QPalette colors = palette(); // those that the theme gives are not set here, and go on following it
     const QColor type = colors.color(QPalette::HighlightedText);
@@ -66,6 +89,17 @@ void Application::MakeSelectionLegible()
         colors.setColor(QPalette::HighlightedText, legible);
         setPalette(colors);
     }
+}
+
+Application::Application(int& argc, char** argv) : m_dispatch(std::make_unique<Dispatch>(argc, argv))
+{
+}
+
+Application::~Application() = default;
+
+int Application::Run()
+{
+    return Dispatch::exec();
 }
 
 void End()

@@ -1,33 +1,25 @@
 // The application: its Spanish surroundings and its event dispatch, which is where announcements go out.
 #pragma once
 
-#include "Announcer.h"
-#include "KeyOrder.h"
-
-#include <QApplication>
-#include <QTranslator>
+#include <memory>
 
 namespace ui {
 
-class Application final : public QApplication
+class Application final
 {
-    Q_OBJECT
-
 public:
     Application(int& argc, char** argv);
+    ~Application();
+    Application(const Application&) = delete;
+    Application& operator=(const Application&) = delete;
 
-    bool notify(QObject* receiver, QEvent* event) override;
-
-protected:
-    bool event(QEvent* event) override;
+    // Handles events until the program ends; its exit status.
+    int Run();
 
 private:
-    void MakeSelectionLegible();
+    class Dispatch;
 
-    KeyOrder m_keys;
-    int m_depth = 0;
-    Announcer m_announcer;
-    QTranslator m_translator;
+    std::unique_ptr<Dispatch> m_dispatch;
 };
 
 // Closes every window and ends the program, at once and without a question.

@@ -3,30 +3,14 @@
 
 #include "Control.h"
 
-#include <QPushButton>
-
 #include <functional>
 #include <string>
 
+class QKeySequence;
+
 namespace ui {
 
-// The face is exactly the given colour and the caption black, whatever the desktop's theme. Enter presses it.
-class FaceButton final : public QPushButton
-{
-    Q_OBJECT
-
-public:
-    FaceButton(const QColor& face, QWidget* parent);
-
-    void SetFace(const QColor& face);
-
-protected:
-    void keyPressEvent(QKeyEvent* event) override;
-    void paintEvent(QPaintEvent* event) override;
-
-private:
-    QColor m_face;
-};
+class FaceButton;
 
 class Button final : public Control
 {
@@ -35,11 +19,11 @@ public:
 
     // UTF-8. "&" stands before the access key; line breaks are kept. A button that has the focus and gets another
     // caption is read again.
-    std::string Caption() const { return m_button.text().toStdString(); }
+    std::string Caption() const;
     void Caption(std::string_view caption);
 
-    // The accessible name. Without one it is the caption, without "&" and line breaks.
-    void Says(std::string_view name);
+    // Without an accessible name of its own it has the caption's, without "&" and line breaks.
+    void AccessibleName(std::string_view name);
 
     // Beeps and says the name: pressing the button has changed nothing.
     void Refuse() const;
@@ -50,13 +34,18 @@ public:
     // Puts the focus on the button and presses it, at once.
     void Press();
 
-    // Whether this is its access key.
-    bool HasAccessKey(const QKeySequence& key) const { return m_button.shortcut() == key; }
+    bool HasAccessKey(const QKeySequence& key) const;
 
-    void BackColor(Color color) { m_button.SetFace(ToQColor(color)); }
+    void BackColor(Color color);
+
+    // Runs the handler.
+    void Click() const;
 
     // Handler, with the button's index in its array.
     std::function<void(int Index)> OnClick;
+
+    // What pressing the button brings: Click, and whatever the form does around it.
+    std::function<void()> pressed;
 
 private:
     Button(const ControlDesign& design, FaceButton* button);
@@ -64,8 +53,8 @@ private:
     void NameChanged();
 
     FaceButton& m_button;
-    QString m_says;
-    QString m_name;
+    std::string m_accessibleName;
+    std::string m_name; // that a reader finds
 };
 
 } // namespace ui

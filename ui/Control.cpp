@@ -1,6 +1,9 @@
 #include "Control.h"
 
+#include "Look.h"
 #include "Strings.h"
+
+#include <QWidget>
 
 #include <algorithm>
 #include <cmath>
@@ -11,7 +14,7 @@ Control::Control(const ControlDesign& design, QWidget& widget)
     : m_design(design), m_widget(widget), m_place(design.place)
 {
     widget.setObjectName(ObjectName(design.name, design.index));
-    widget.setAccessibleName(ToQString(design.says));
+    widget.setAccessibleName(ToQString(design.accessibleName));
     widget.setAccessibleDescription(ToQString(design.keys));
     if (design.tab == noTab) {
         widget.setFocusPolicy(Qt::NoFocus);
@@ -33,6 +36,11 @@ void Control::Visible(bool visible)
     m_widget.setVisible(visible);
 }
 
+bool Control::IsVisible() const
+{
+    return m_widget.isVisible();
+}
+
 void Control::Move(const Place& place)
 {
     m_place = place;
@@ -43,13 +51,14 @@ void Control::Scale(double scale, const QPoint& origin)
 {
     m_scale = scale;
     m_typeScale = scale;
-    m_origin = origin;
+    m_originX = origin.x();
+    m_originY = origin.y();
     PutInPlace();
 }
 
 void Control::PutInPlace()
 {
-    QRect place = ToPixels(m_place, m_scale).translated(m_origin);
+    QRect place = ToPixels(m_place, m_scale).translated(m_originX, m_originY);
     const QRect inside = place & m_widget.parentWidget()->rect();
     if (!m_design.inside.empty() && !inside.isEmpty()) {
         place = inside; // edges rounded from another origin may be a pixel outside

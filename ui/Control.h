@@ -4,10 +4,12 @@
 #include "Design.h"
 #include "Keys.h"
 
-#include <QWidget>
-
 #include <string>
 #include <string_view>
+
+class QFont;
+class QPoint;
+class QWidget;
 
 namespace ui {
 
@@ -32,7 +34,7 @@ public:
     void SetFocus();
     void Enabled(bool enabled);
     void Visible(bool visible);
-    bool IsVisible() const { return m_widget.isVisible(); } // false too as long as the screen is not shown
+    bool IsVisible() const; // false too as long as the screen is not shown
 
     // Moves the control; in twips, inside what holds it.
     void Move(const Place& place);
@@ -68,7 +70,8 @@ private:
     Place m_place;
     double m_scale = 1;
     double m_typeScale = 1;
-    QPoint m_origin;
+    int m_originX = 0; // pixels
+    int m_originY = 0;
 };
 
 } // namespace ui

@@ -18,15 +18,6 @@ public:
     auto begin() const { return m_members.begin(); }
     auto end() const { return m_members.end(); }
 
-    // Gives all of them one handler, which is told the index.
-    template <class Screen>
-    void OnClick(Screen* screen, void (Screen::*handler)(int Index)) const
-    {
-        for (T& member : m_members) {
-            member.OnClick = [screen, handler](int Index) { (screen->*handler)(Index); };
-        }
-    }
-
     int Count() const { return static_cast<int>(m_members.size()); }
 
 private:

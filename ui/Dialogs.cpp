@@ -1,15 +1,15 @@
 #include "Dialogs.h"
 
-#include "Accessible.h"
 #include "Announcer.h"
 #include "Form.h"
-#include "Silence.h"
 #include "Strings.h"
+#include "Timing.h"
 
 #include <QApplication>
 #include <QInputDialog>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QMainWindow>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -43,21 +43,11 @@ public:
     }
 };
 
-void SayBefore(QMessageBox& box, Form& screen, const QString& said)
-{
-    auto* label = box.findChild<QLabel*>("qt_msgbox_label");
-    if (boxesCutMessagesOff && label != nullptr) {
-        label->setAccessibleName(said.trimmed() + ". " + box.text());
-    } else {
-        Announce(screen, said);
-    }
-}
-
 // Captions of our own, since Qt's Spanish ones come from a file that may be missing.
 QMessageBox::StandardButton Show(QMessageBox::Icon icon, std::string_view title, std::string_view text,
                                  QMessageBox::StandardButtons buttons)
 {
-    Form* screen = Form::Front();
+    QWidget* screen = Form::FrontWindow();
     const QString said = screen == nullptr ? QString() : Announcer::Instance().Take(*screen).text;
     QMessageBox box(icon, TitleOr(title), ToQString(text), buttons, screen);
     box.setTextFormat(Qt::PlainText);
@@ -71,11 +61,10 @@ QMessageBox::StandardButton Show(QMessageBox::Icon icon, std::string_view title,
         box.setEscapeButton(QMessageBox::No);
     }
     if (!said.isEmpty()) { // what the screen has just said is heard before the box's text
-        SayBefore(box, *screen, said);
+        SayBeforeBox(box, *screen, said);
     }
     const HeldEnter ignored(box);
-    LetReaderCatchUp();
-    return static_cast<QMessageBox::StandardButton>(box.exec());
+    return static_cast<QMessageBox::StandardButton>(OpenBox(box));
 }
 
 } // namespace
@@ -98,15 +87,14 @@ void FatalBox(std::string_view text)
 
 std::string InputBox(std::string_view prompt, std::string_view title, std::string_view initial)
 {
-    QInputDialog box(Form::Front());
+    QInputDialog box(Form::FrontWindow());
     box.setWindowTitle(TitleOr(title));
     box.setLabelText(ToQString(prompt));
     Silently([&] { box.setTextValue(ToQString(initial)); }); // it is read when the box opens
     box.setOkButtonText("Aceptar");
     box.setCancelButtonText("Cancelar");
     const HeldEnter ignored(box);
-    LetReaderCatchUp();
-    return box.exec() == QDialog::Accepted ? box.textValue().toStdString() : std::string();
+    return OpenBox(box) == QDialog::Accepted ? box.textValue().toStdString() : std::string();
 }
 
 } // namespace ui

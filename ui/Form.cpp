@@ -1,17 +1,12 @@
 #include "Form.h"
 
 #include "Announcer.h"
-#include "Fatal.h"
-#include "Silence.h"
+#include "FormWindow.h"
+#include "Handlers.h"
 #include "Strings.h"
+#include "Timing.h"
 
-#include <QApplication>
-#include <QKeyEvent>
-#include <QLayout>
 #include <QMenuBar>
-#include <QScreen>
-#include <QStyle>
-#include <QWindow>
 
 #include <algorithm>
 
@@ -22,9 +17,10 @@ namespace {
 std::unique_ptr<Control> Create(const ControlDesign& design, QWidget* parent)
 {
     switch (design.kind) {
-    case Kind::OneLine:
-    case Kind::MultiLine:
+    case Kind::TextBox:
         return std::make_unique<TextBox>(design, parent);
+    case Kind::TextArea:
+        return std::make_unique<TextArea>(design, parent);
     case Kind::Button:
         return std::make_unique<Button>(design, parent);
     case Kind::Label:
@@ -34,83 +30,52 @@ std::unique_ptr<Control> Create(const ControlDesign& design, QWidget* parent)
     case Kind::Picture:
         return std::make_unique<Picture>(design, parent);
     case Kind::Line:
-        return std::make_unique<Line>(design, parent);
+        break;
     }
-    return nullptr;
+    return std::make_unique<Line>(design, parent);
 }
-
-// Whether the focus comes or goes inside the window, and not with the window or for a menu.
-bool IsFocusMove(const QEvent& event)
-{
-    if (event.type() != QEvent::FocusIn && event.type() != QEvent::FocusOut) {
-        return false;
-    }
-    const Qt::FocusReason reason = static_cast<const QFocusEvent&>(event).reason();
-    return reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason && reason != Qt::MenuBarFocusReason;
-}
-
-QPointer<Form> front;
 
 } // namespace
 
-Form::Form(const FormDesign& design) : m_design(design)
+Form::Form(const FormDesign& design)
+    : m_design(design), m_unopened(std::make_unique<FormWindow>(*this)), m_window(*m_unopened)
 {
-    setObjectName(ToQString(design.name));
-    setWindowTitle(ToQString(design.caption));
-    setAccessibleDescription(ToQString(design.keys));
-    setAttribute(Qt::WA_DeleteOnClose);
-    setCentralWidget(new QWidget);
-    centralWidget()->setMinimumSize(1, 1);
+    m_window.setObjectName(ToQString(design.name));
+    m_window.setWindowTitle(ToQString(design.caption));
+    m_window.setAccessibleDescription(ToQString(design.keys));
     BuildControls();
     ChainTabOrder();
-    if (!design.menus.empty()) { // or there would be a bar of no use, to which Alt leads
-        menuBar()->setNativeMenuBar(false);
-        m_menuItems = BuildMenus(*menuBar(), design.menus);
+    if (!design.menus.IsEmpty()) { // or there would be a bar of no use, to which Alt leads
+        m_window.menuBar()->setNativeMenuBar(false);
+        m_menuItems = BuildMenus(*m_window.menuBar(), design.menus.Entries());
     }
-    centralWidget()->installEventFilter(this);
 }
 
 Form::~Form() = default;
 
-void Form::Open(Modality modality)
+std::weak_ptr<Form> Form::Open(std::unique_ptr<Form> screen, Modality modality, const Form* opener)
 {
-    if (modality == Modality::Modal) {
-        // To the desktop it is one window with that which it blocks: nothing leads to the one, or takes away the other,
-        // without it.
-        setWindowModality(Qt::ApplicationModal);
-        setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
-                       Qt::WindowMaximizeButtonHint | Qt::WindowCloseButtonHint);
-        winId(); // which makes its handle
-        windowHandle()->setTransientParent(front ? front->windowHandle() : nullptr);
-    }
-    Form_Load();
-    TellExercise();
-    const auto first = std::ranges::find_if(m_tabStops, [](const QWidget* stop) { return stop->isEnabled(); });
-    if (focusWidget() == nullptr && first != m_tabStops.end()) {
-        (*first)->setFocus();
-    }
-    constexpr int frame = 4; // pixels at the sides and below; what the desktop really adds is known too late
-    centralWidget()->setFixedSize(OpeningSize()); // so that the window becomes this size and its menu bar
-    adjustSize();
-    centralWidget()->setMinimumSize(1, 1);
-    centralWidget()->setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
-    layout()->activate(); // or the window could not be smaller yet
-    resize(size().boundedTo(screen()->availableSize() -
-                            QSize(2 * frame, style()->pixelMetric(QStyle::PM_TitleBarHeight) + frame)));
-    show();
+    const std::shared_ptr<Form> opened = std::move(screen);
+    opened->m_unopened.release()->Open(opened, modality, opener); // destroys itself, and the screen, when it is closed
+    return opened;
 }
 
 void Form::BringForward()
 {
-    setWindowState(windowState() & ~Qt::WindowMinimized);
-    show();
-    raise();
-    activateWindow();
+    m_window.setWindowState(m_window.windowState() & ~Qt::WindowMinimized);
+    m_window.show();
+    m_window.raise();
+    m_window.activateWindow();
 }
 
-Form* Form::Front()
+void Form::Close()
 {
-    return front;
+    m_window.close();
+}
+
+QMainWindow& Form::Window() const
+{
+    return m_window;
 }
 
 KeyResult Form::Form_KeyDown(int, int)
@@ -120,24 +85,24 @@ KeyResult Form::Form_KeyDown(int, int)
 
 int Form::InnerWidth() const
 {
-    return centralWidget()->width() * twipsPerPixel;
+    return m_window.centralWidget()->width() * twipsPerPixel;
 }
 
 int Form::InnerHeight() const
 {
-    return centralWidget()->height() * twipsPerPixel;
+    return m_window.centralWidget()->height() * twipsPerPixel;
 }
 
 const Control* Form::ActiveControl() const
 {
-    return ControlOf(focusWidget());
+    return ControlOf(m_window.focusWidget());
 }
 
 void Form::Tell(std::string_view text)
 {
     // As coming from a box: of a plain widget Orca 48 drops the second of two quick messages.
     const Control* box = FirstThat(Speaking::Spoken);
-    Announcer::Instance().SayAlone(box == nullptr ? *this : box->Widget(), ToQString(text));
+    Announcer::Instance().SayAlone(box == nullptr ? m_window : box->Widget(), ToQString(text));
 }
 
 void Form::TellExercise()
@@ -147,222 +112,63 @@ void Form::TellExercise()
     }
 }
 
-bool Form::event(QEvent* event)
+void Form::SayWhereItLeads(const std::function<void()>& action) const
 {
-    if (event->type() == QEvent::WindowActivate) {
-        QWidget* modal = QApplication::activeModalWidget();
-        if (modal == nullptr || modal == this) {
-            front = this;
-        } else if (auto* screen = qobject_cast<Form*>(modal)) { // this one is dead
-            screen->BringForward();
-        }
+    const FocusTrace trace;
+    action();
+    if (const auto* box = dynamic_cast<const TextBox*>(ControlOf(trace.Unheard()))) {
+        box->SayWhereItIs();
     }
-    if (event->type() == QEvent::Close) { // while a menu is open, Qt does not see which window becomes active next
-        while (QWidget* menu = QApplication::activePopupWidget()) {
-            menu->close();
-        }
-    }
-    const bool handled = QMainWindow::event(event);
-    if (event->type() == QEvent::ApplicationPaletteChange) { // only windows are told
-        for (const std::unique_ptr<Control>& control : m_controls) {
-            control->TakeColors();
-        }
-    }
-    return handled;
 }
 
-bool Form::eventFilter(QObject* watched, QEvent* event)
+bool Form::IsMenuItem(std::string_view name) const
 {
-    KeyResult result = KeyResult::Swallow;
-    Run([&] { result = Handle(watched, *event); });
-    return result == KeyResult::Swallow || QMainWindow::eventFilter(watched, event);
+    return std::ranges::any_of(m_menuItems,
+                               [name](const std::unique_ptr<MenuItem>& item) { return item->Name() == name; });
 }
 
-KeyResult Form::Handle(QObject* watched, QEvent& event)
+void Form::EndOnName(std::string_view name) const
 {
-    if (watched == centralWidget() && event.type() == QEvent::Resize) {
-        Arrange();
-    }
-    Control* control = ControlOf(watched);
-    if (control == nullptr) {
-        return KeyResult::Pass;
-    }
-    if (IsFocusMove(event)) {
-        m_lockedIsSaid = false;
-        // The reader learns of the focus first: a box that is told of before is taken for the one in focus, and its
-        // focus for no news.
-        Silently([&] { event.type() == QEvent::FocusIn ? control->GotFocus() : control->Validate(); });
-    }
-    if (auto* button = dynamic_cast<Button*>(control); button != nullptr && event.type() == QEvent::Shortcut) {
-        AccessKey(*button, static_cast<QShortcutEvent&>(event));
-        return KeyResult::Swallow;
-    }
-    // A key that a box in a frame leaves alone comes to the frame too, and is none of the frame's.
-    return watched == focusWidget() ? HandleKey(*control, event) : KeyResult::Pass;
-}
-
-KeyResult Form::HandleKey(Control& control, QEvent& event)
-{
-    switch (event.type()) {
-    case QEvent::ShortcutOverride:
-        if (const auto& key = static_cast<QKeyEvent&>(event);
-            key.isAutoRepeat() && (ShiftMaskOf(key) & ShiftMask::Alt) != 0) { // an access key held down acts once
-            event.accept();
-            return KeyResult::Swallow;
-        }
-        break;
-    case QEvent::KeyPress:
-        return KeyPressed(control, static_cast<QKeyEvent&>(event));
-    case QEvent::InputMethod:
-        Commit(control, static_cast<QInputMethodEvent&>(event));
-        break;
-    default:
-        break;
-    }
-    return KeyResult::Pass;
-}
-
-// Qt would show the button pressed for 100 ms first, and all that the pupil is to hear would come late. A key that
-// several buttons share leads to the next of them after the focus, round, and presses none.
-void Form::AccessKey(Button& button, const QShortcutEvent& event)
-{
-    if (!event.isAmbiguous()) {
-        button.Press();
-        return;
-    }
-    std::vector<QWidget*> round = m_tabStops;
-    const auto focus = std::ranges::find(round, focusWidget());
-    std::ranges::rotate(round, focus == round.end() ? round.begin() : focus + 1);
-    const auto next = std::ranges::find_if(round, [this, &event](const QWidget* stop) {
-        const auto* other = dynamic_cast<const Button*>(ControlOf(stop));
-        return other != nullptr && other->HasAccessKey(event.key()) && stop->isEnabled() && stop->isVisible();
-    });
-    (*next)->setFocus(Qt::ShortcutFocusReason);
+    qFatal("%s has no such control as %s", qPrintable(ToQString(m_design.name)), qPrintable(ToQString(name)));
 }
 
 void Form::BuildControls()
 {
     for (const ControlDesign& design : m_design.controls) {
-        QWidget* parent = centralWidget();
+        QWidget* parent = m_window.centralWidget();
         if (!design.inside.empty()) {
             parent = parent->findChild<QWidget*>(ToQString(design.inside));
         }
         m_controls.push_back(Create(design, parent));
-        m_controls.back()->Widget().installEventFilter(this);
+        m_window.Watch(*m_controls.back());
+        if (auto* button = dynamic_cast<Button*>(m_controls.back().get())) {
+            button->pressed = [this, button] { SayWhereItLeads([button] { Run([button] { button->Click(); }); }); };
+        }
     }
 }
 
 void Form::ChainTabOrder()
 {
-    std::vector<const Control*> ordered;
+    std::vector<Control*> ordered;
     for (const std::unique_ptr<Control>& control : m_controls) {
         if (control->Design().tab != noTab) {
             ordered.push_back(control.get());
         }
     }
     std::ranges::sort(ordered, {}, [](const Control* control) { return control->Design().tab; });
-    QLabel* label = nullptr;
-    for (const Control* control : ordered) {
-        if (label != nullptr) {
-            label->setBuddy(&control->Widget());
+    Label* before = nullptr;
+    for (Control* control : ordered) {
+        if (before != nullptr) {
+            before->LeadTo(*control);
         }
-        label = qobject_cast<QLabel*>(&control->Widget());
-        if (label == nullptr) {
-            m_tabStops.push_back(&control->Widget());
+        before = dynamic_cast<Label*>(control);
+        if (before == nullptr) {
+            m_tabStops.push_back(control);
         }
     }
     for (std::size_t i = 1; i < m_tabStops.size(); ++i) {
-        setTabOrder(m_tabStops[i - 1], m_tabStops[i]);
+        QWidget::setTabOrder(&m_tabStops[i - 1]->Widget(), &m_tabStops[i]->Widget());
     }
-}
-
-// What the desktop's texts are enlarged by.
-double Form::TextScale() const
-{
-    return std::max(1.0, logicalDpiX() / 96.0);
-}
-
-QSize Form::OpeningSize() const
-{
-    return ToPixels({0, 0, m_design.width, m_design.height}, TextScale()).size();
-}
-
-void Form::Arrange()
-{
-    const QSize size = centralWidget()->size();
-    const QSize opening = OpeningSize(); // in whole pixels, so that at this size the scale is exact
-    const double scale = TextScale() * std::min(static_cast<double>(size.width()) / opening.width(),
-                                                static_cast<double>(size.height()) / opening.height());
-    if (m_design.resizing == Resizing::Own) {
-        for (const std::unique_ptr<Control>& control : m_controls) {
-            control->ScaleType(scale);
-        }
-        Form_Resize();
-        return;
-    }
-    const QSize drawn = ToPixels({0, 0, m_design.width, m_design.height}, scale).size();
-    const QPoint centred((size.width() - drawn.width()) / 2, (size.height() - drawn.height()) / 2);
-    for (const std::unique_ptr<Control>& control : m_controls) {
-        control->Scale(scale, control->Design().inside.empty() ? centred : QPoint());
-    }
-}
-
-KeyResult Form::KeyPressed(Control& control, const QKeyEvent& event)
-{
-    const KeyResult result = Offer(control, event);
-    const auto* box = dynamic_cast<const TextBox*>(&control);
-    const int character = KeyAsciiOf(event);
-    const bool types = character >= ' ' || character == KeyAscii::Backspace;
-    const bool isInVain = box != nullptr && box->IsLocked() && types && result == KeyResult::Pass;
-    if (isInVain && !m_lockedIsSaid) {
-        box->SayLocked();
-    }
-    if (!IsModifier(event)) {
-        m_lockedIsSaid = isInVain;
-    }
-    return result;
-}
-
-// Lets the screen and then the control's handlers have the key.
-KeyResult Form::Offer(Control& control, const QKeyEvent& event)
-{
-    const int character = KeyAsciiOf(event);
-    const int code = KeyCodeOf(event);
-    const int shift = ShiftMaskOf(event);
-    KeyResult result = Form_KeyDown(code, shift);
-    if (const Control* score = FirstThat(Speaking::Score); code == KeyCode::F4 && shift == 0 && score != nullptr) {
-        Tell(score->Text());
-    } else if (code == KeyCode::F3 && result == KeyResult::Pass) {
-        TellExercise();
-    }
-    if (result != KeyResult::Swallow) {
-        result = std::max(result, control.KeyDown(code, shift));
-    }
-    if (result == KeyResult::Swallow) {
-        return result;
-    }
-    if (character == 0) {
-        // Where no access key has taken it, a letter with Alt is none that a box may receive.
-        const bool withAlt = (shift & ShiftMask::Alt) != 0 && TypesText(event);
-        return withAlt ? KeyResult::Swallow : result;
-    }
-    // A finger that stays on Enter must not check the answer, or skip the exercise, many times.
-    if (character == KeyAscii::Enter && event.isAutoRepeat() && control.Design().kind != Kind::MultiLine) {
-        return KeyResult::Swallow;
-    }
-    return std::max(result, control.KeyPressed(character));
-}
-
-// Each character of a text that an input method commits is a key pressed, and the box gets what its handlers let pass.
-void Form::Commit(Control& control, QInputMethodEvent& event)
-{
-    QString passed;
-    for (const QChar character : event.commitString()) {
-        if (control.KeyPressed(character.unicode()) != KeyResult::Swallow) {
-            passed += character;
-        }
-    }
-    event.setCommitString(passed, event.replacementStart(), event.replacementLength());
 }
 
 Control* Form::FirstThat(Speaking speaking) const
@@ -373,7 +179,7 @@ Control* Form::FirstThat(Speaking speaking) const
     return found == m_controls.end() ? nullptr : found->get();
 }
 
-Control* Form::ControlOf(const QObject* widget) const
+Control* Form::ControlOf(const QWidget* widget) const
 {
     const auto found = std::ranges::find_if(
         m_controls, [widget](const std::unique_ptr<Control>& control) { return &control->Widget() == widget; });

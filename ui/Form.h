@@ -1,39 +1,49 @@
-// A screen's window. It builds the controls and menus of its design, keeps them in place, shows every key press to the
-// screen before the control that has the focus gets it, and opens with the focus on the first control.
+// A screen. It builds the controls and menus of its design, ties them to the screen's handlers, and sees every key
+// press before the control that has the focus. Its window keeps the controls in place.
 #pragma once
 
 #include "Button.h"
 #include "ControlArray.h"
-#include "Labels.h"
+#include "Label.h"
 #include "Menu.h"
+#include "Shapes.h"
+#include "Tables.h"
 #include "TextBox.h"
-
-#include <QMainWindow>
-#include <QShortcutEvent>
 
 #include <algorithm>
 #include <memory>
+#include <string>
+#include <string_view>
+#include <type_traits>
 #include <vector>
+
+class QMainWindow;
 
 namespace ui {
 
 enum class Modality { Modal, Modeless };
 
-class Form : public QMainWindow
+class Form
 {
-    Q_OBJECT
-
 public:
-    ~Form() override;
+    virtual ~Form();
+    Form(const Form&) = delete;
+    Form& operator=(const Form&) = delete;
 
-    // Loads the screen and shows it. A modal one blocks all others until it is closed. A closed screen is destroyed.
-    void Open(Modality modality);
+    // Loads the screen and shows it, with the focus on its first control. A modal one blocks all others until it is
+    // closed, and belongs to the window of its `opener`. A closed screen is destroyed.
+    static std::weak_ptr<Form> Open(std::unique_ptr<Form> screen, Modality modality, const Form* opener = nullptr);
 
     // Brings an open screen to the front, and back if it was minimised.
     void BringForward();
 
-    // The screen that was the active window last, which is behind an open box; null where there is none any more.
-    static Form* Front();
+    void Close();
+
+    QMainWindow& Window() const;
+
+    // The window of the screen that was the active one last, which is behind an open box; null where there is none any
+    // more.
+    static QMainWindow* FrontWindow();
 
 protected:
     explicit Form(const FormDesign& design);
@@ -60,14 +70,13 @@ protected:
     virtual std::string Exercise() const { return {}; }
     void TellExercise();
 
-    // The control of this name; the design must have it.
+    // The control of this name; and the controls, or menu entries, of one name by their index. A name that the design
+    // does not have ends the program, as does that of another kind of control.
     template <class T>
     T& The(std::string_view name) const
     {
         return All<T>(name)[0];
     }
-
-    // The controls or menu entries of this name in the order of their index.
     template <class T>
     ControlArray<T> All(std::string_view name) const
     {
@@ -77,44 +86,98 @@ protected:
         } else {
             AddNamed(m_controls, name, members);
         }
+        if (members.empty()) {
+            EndOnName(name);
+        }
         return ControlArray<T>(std::move(members));
     }
 
-    bool event(QEvent* event) override;
-    bool eventFilter(QObject* watched, QEvent* event) override;
+    // Tie the controls of this name, or the menu entries, to a handler of the screen. It takes what the event tells,
+    // with or without the control's index before.
+    template <class Handler>
+    void OnClick(std::string_view name, Handler handler)
+    {
+        if (IsMenuItem(name)) {
+            Tie(name, &MenuItem::OnClick, Bound<>(handler));
+        } else {
+            Tie(name, &Button::OnClick, Bound<>(handler));
+        }
+    }
+    template <class Handler>
+    void OnChange(std::string_view name, Handler handler)
+    {
+        Tie(name, &TextBox::OnChange, Bound<>(handler));
+    }
+    template <class Handler>
+    void OnGotFocus(std::string_view name, Handler handler)
+    {
+        Tie(name, &TextBox::OnGotFocus, Bound<>(handler));
+    }
+    template <class Handler>
+    void OnValidate(std::string_view name, Handler handler)
+    {
+        Tie(name, &TextBox::OnValidate, Bound<>(handler));
+    }
+    template <class Handler>
+    void OnKeyDown(std::string_view name, Handler handler)
+    {
+        Tie(name, &TextBox::OnKeyDown, Bound<int, int>(handler));
+    }
+    template <class Handler>
+    void OnKeyPress(std::string_view name, Handler handler)
+    {
+        Tie(name, &TextBox::OnKeyPress, Bound<int>(handler));
+    }
 
 private:
+    class FormWindow;
+
+    template <class... Told, class Screen, class Result, class... Taken>
+    auto Bound(Result (Screen::*handler)(Taken...))
+    {
+        return [screen = static_cast<Screen*>(this), handler](int Index, Told... told) {
+            if constexpr (sizeof...(Taken) == sizeof...(Told)) {
+                return (screen->*handler)(told...);
+            } else {
+                return (screen->*handler)(Index, told...);
+            }
+        };
+    }
+    template <class T, class Slot, class Handler>
+    void Tie(std::string_view name, Slot T::*slot, const Handler& handler) const
+    {
+        for (T& member : All<T>(name)) {
+            member.*slot = handler;
+        }
+    }
+
     template <class Owned, class T>
-    static void AddNamed(const std::vector<std::unique_ptr<Owned>>& all, std::string_view name,
-                         std::vector<std::reference_wrapper<T>>& members)
+    void AddNamed(const std::vector<std::unique_ptr<Owned>>& all, std::string_view name,
+                  std::vector<std::reference_wrapper<T>>& members) const
     {
         for (const std::unique_ptr<Owned>& one : all) {
             if (one->Name() == name) {
-                members.push_back(dynamic_cast<T&>(*one));
+                auto* member = dynamic_cast<T*>(one.get());
+                member != nullptr ? members.push_back(*member) : EndOnName(name);
             }
         }
         std::ranges::sort(members, {}, [](const T& member) { return member.Index(); });
     }
+    bool IsMenuItem(std::string_view name) const;
+    [[noreturn]] void EndOnName(std::string_view name) const;
 
     void BuildControls();
     void ChainTabOrder();
-    double TextScale() const;
-    QSize OpeningSize() const;
-    void Arrange();
-    KeyResult Handle(QObject* watched, QEvent& event);
-    KeyResult HandleKey(Control& control, QEvent& event);
-    void AccessKey(Button& button, const QShortcutEvent& event);
-    KeyResult KeyPressed(Control& control, const QKeyEvent& event);
-    KeyResult Offer(Control& control, const QKeyEvent& event);
-    static void Commit(Control& control, QInputMethodEvent& event);
-    Control* ControlOf(const QObject* widget) const;
+    void SayWhereItLeads(const std::function<void()>& action) const;
+    Control* ControlOf(const QWidget* widget) const;
     Control* FirstThat(Speaking speaking) const;
 
     const FormDesign m_design;
+    std::unique_ptr<FormWindow> m_unopened;
+    FormWindow& m_window;
     std::vector<std::unique_ptr<Control>> m_controls;
     std::vector<std::unique_ptr<MenuItem>> m_menuItems;
-    std::vector<QWidget*> m_tabStops;
-    bool m_lockedIsSaid = false; // of the box in focus, since the pupil began to type into it
+    std::vector<Control*> m_tabStops;
 };
 
 } // namespace ui

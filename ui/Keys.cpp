@@ -67,19 +67,4 @@ bool TypesText(const QKeyEvent& event)
     return !text.isEmpty() && text.front().isPrint();
 }
 
-bool IsModifier(const QKeyEvent& event)
-{
-    switch (event.key()) {
-    case Qt::Key_Shift:
-    case Qt::Key_Control:
-    case Qt::Key_Alt:
-    case Qt::Key_AltGr:
-    case Qt::Key_Meta:
-    case Qt::Key_CapsLock:
-        return true;
-    default:
-        return false;
-    }
-}
-
 } // namespace ui

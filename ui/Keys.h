@@ -49,7 +49,4 @@ int KeyAsciiOf(const QKeyEvent& event);
 // Whether the key has a printable character, whatever the modifiers.
 bool TypesText(const QKeyEvent& event);
 
-// Whether the key is only held beside others: Shift, Control, Alt and the like.
-bool IsModifier(const QKeyEvent& event);
-
 } // namespace ui

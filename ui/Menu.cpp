@@ -1,8 +1,9 @@
 #include "Menu.h"
 
-#include "Fatal.h"
+#include "Handlers.h"
 #include "Strings.h"
 
+#include <QAction>
 #include <QActionGroup>
 #include <QApplication>
 #include <QMenu>
@@ -52,7 +53,7 @@ private:
 
 } // namespace
 
-MenuItem::MenuItem(const MenuDesign& design, QAction& action) : m_design(design), m_action(action)
+MenuItem::MenuItem(const MenuDesign& design, QAction& action) : m_design(design)
 {
     QObject::connect(&action, &QAction::triggered, &action, [this] {
         if (OnClick) {

@@ -3,12 +3,12 @@
 
 #include "Design.h"
 
-#include <QAction>
-
 #include <functional>
 #include <memory>
+#include <span>
 #include <vector>
 
+class QAction;
 class QMenuBar;
 
 namespace ui {
@@ -23,17 +23,12 @@ public:
     std::string_view Name() const { return m_design.name; }
     int Index() const { return m_design.index; }
 
-    bool Checked() const { return m_action.isChecked(); }
-
-    // Checking an entry of an array unchecks the others.
-    void Check() { m_action.setChecked(true); }
-
-    // Handler, with the entry's index in its array.
+    // Handler, with the entry's index in its array. An entry of an array that is chosen is the one that is checked by
+    // then.
     std::function<void(int Index)> OnClick;
 
 private:
     const MenuDesign& m_design;
-    QAction& m_action;
 };
 
 // Fills `bar` with the menus of `designs`, which outlive it.

@@ -2,61 +2,37 @@
 
 #include "Announcer.h"
 #include "Bell.h"
-#include "Fatal.h"
+#include "Handlers.h"
 #include "MultiLineEdit.h"
 #include "OneLineEdit.h"
-#include "Silence.h"
 #include "Strings.h"
+#include "Timing.h"
 #include "Val.h"
 
 namespace ui {
 
-namespace {
-
-template <class Widget>
-std::pair<QWidget*, EditWidget*> Create(const ControlDesign& design, QWidget* parent)
-{
-    auto* widget = new Widget(design, parent);
-    return {widget, widget};
-}
-
-} // namespace
-
-TextBox::TextBox(const ControlDesign& design, QWidget* parent)
-    : TextBox(design, design.kind == Kind::MultiLine ? Create<MultiLineEdit>(design, parent)
-                                                     : Create<OneLineEdit>(design, parent))
+TextBox::TextBox(const ControlDesign& design, QWidget* parent) : TextBox(design, new OneLineEdit(design, parent))
 {
 }
 
-TextBox::TextBox(const ControlDesign& design, std::pair<QWidget*, EditWidget*> widget)
-    : Control(design, *widget.first), m_edit(*widget.second)
+TextBox::TextBox(const ControlDesign& design, QWidget& widget, TextHolder& holder)
+    : Control(design, widget), m_holder(holder)
 {
-    m_edit.SetExactText(ToQString(design.text));
-    m_edit.edited = [this] { Changed(); };
-    m_edit.refused = [this] { Refuse(); };
-}
-
-// In focus the reader follows the box; elsewhere nobody does.
-template <class Change>
-void TextBox::Alter(Change change)
-{
-    if (Widget().hasFocus()) {
-        change();
-    } else {
-        Silently(change);
-    }
+    m_holder.SetExactText(ToQString(design.text));
+    m_holder.edited = [this] { Changed(); };
+    m_holder.refused = [this] { Refuse(); };
 }
 
 std::string TextBox::Text() const
 {
-    return m_edit.ExactText().toStdString();
+    return m_holder.ExactText().toStdString();
 }
 
 void TextBox::Text(std::string_view text)
 {
     const QString value = ToQString(text);
-    if (value != m_edit.ExactText()) {
-        Alter([&] { m_edit.SetExactText(value); });
+    if (value != m_holder.ExactText()) {
+        Alter(Widget(), [&] { m_holder.SetExactText(value); });
         Changed();
     }
     if (Design().speaking == Speaking::Spoken) {
@@ -84,18 +60,29 @@ void TextBox::PutInPlace()
 
 void TextBox::Select(int start, int length)
 {
-    m_edit.SettleCaret(); // which would otherwise undo the selection
-    Alter([&] { m_edit.Select(start, length); });
+    m_holder.SettleCaret(); // which would otherwise undo the selection
+    Alter(Widget(), [&] { m_holder.Select(start, length); });
 }
 
 void TextBox::SelectAll()
 {
-    Select(0, static_cast<int>(m_edit.ExactText().size()));
+    Select(0, static_cast<int>(m_holder.ExactText().size()));
+}
+
+int TextBox::SelStart() const
+{
+    return m_holder.SelStart();
 }
 
 void TextBox::Say() const
 {
-    Announcer::Instance().Say(Widget(), m_edit.ExactText());
+    Announcer::Instance().Say(Widget(), m_holder.ExactText());
+}
+
+void TextBox::SayWhereItIs() const
+{
+    const QString text = Widget().accessibleName() + ' ' + m_holder.CaretLine();
+    Announcer::Instance().Say(Widget(), text.simplified());
 }
 
 void TextBox::SayLocked() const
@@ -106,18 +93,7 @@ void TextBox::SayLocked() const
 void TextBox::Refuse() const
 {
     Beep();
-    Announcer::Instance().Say(Widget(), m_edit.CaretLine());
-}
-
-std::u16string TextBox::Units() const
-{
-    return m_edit.ExactText().toStdU16String();
-}
-
-void TextBox::Edit(std::u16string_view text, int caret)
-{
-    const QString value = QString::fromUtf16(text.data(), static_cast<qsizetype>(text.size()));
-    Alter([&] { m_edit.Edit(value, caret); });
+    Announcer::Instance().Say(Widget(), m_holder.CaretLine());
 }
 
 void TextBox::GotFocus()
@@ -136,12 +112,12 @@ void TextBox::Validate()
 
 void TextBox::TakeColors()
 {
-    m_edit.TakeColors();
+    m_holder.TakeColors();
 }
 
 KeyResult TextBox::KeyDown(int keyCode, int shift)
 {
-    m_edit.SettleCaret();
+    m_holder.SettleCaret();
     return OnKeyDown ? OnKeyDown(Index(), keyCode, shift) : KeyResult::Pass;
 }
 
@@ -155,6 +131,25 @@ void TextBox::Changed() const
     if (OnChange) {
         Run([this] { OnChange(Index()); });
     }
+}
+
+TextArea::TextArea(const ControlDesign& design, QWidget* parent) : TextArea(design, *new MultiLineEdit(design, parent))
+{
+}
+
+TextArea::TextArea(const ControlDesign& design, MultiLineEdit& edit) : TextBox(design, edit, edit), m_edit(edit)
+{
+}
+
+std::u16string TextArea::Utf16Text() const
+{
+    return m_edit.ExactText().toStdU16String();
+}
+
+void TextArea::Edit(std::u16string_view text, int caret)
+{
+    const QString value = QString::fromUtf16(text.data(), static_cast<qsizetype>(text.size()));
+    Alter(Widget(), [&] { m_edit.Edit(value, caret); });
 }
 
 } // namespace ui

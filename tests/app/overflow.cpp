@@ -11,6 +11,7 @@
 #include <QAction>
 #include <QInputDialog>
 #include <QLineEdit>
+#include <QMainWindow>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTimer>
@@ -97,25 +98,26 @@ int main(int argc, char** argv)
 {
     ui::Application application(argc, argv);
     const std::string_view way = argv[argc - 1];
-    ui::Form* form = nullptr;
-    std::function<void()> act;
+    std::unique_ptr<ui::Form> form;
+    std::function<void(QWidget & form)> act;
     if (way == "counting") {
-        form = new operaciones::Form2;
-        act = [form] { AnswerWronglyTooOften(*form); };
+        form = std::make_unique<operaciones::Form2>();
+        act = AnswerWronglyTooOften;
     } else if (way == "counting unseen") {
-        form = new ejercicios::FormConversion;
-        act = [form] { AnswerRightlyTooOften(*form); };
+        form = std::make_unique<ejercicios::FormConversion>();
+        act = AnswerRightlyTooOften;
     } else if (way == "multiplying") {
-        form = new ejercicios::FormCantidad;
-        act = [form] { AskForTooMuch(*form); };
+        form = std::make_unique<ejercicios::FormCantidad>();
+        act = AskForTooMuch;
     } else {
-        form = new ejercicios::FormFactores;
-        act = [form] { DivideByTooMuch(*form); };
+        form = std::make_unique<ejercicios::FormFactores>();
+        act = DivideByTooMuch;
     }
-    form->Open(ui::Modality::Modeless);
-    QTimer::singleShot(0, form, [form, act] {
-        support::WaitActive(*form);
-        act();
+    QMainWindow* window = &form->Window();
+    ui::Form::Open(std::move(form), ui::Modality::Modeless);
+    QTimer::singleShot(0, window, [window, act] {
+        support::WaitActive(*window);
+        act(*window);
     });
-    return ui::Application::exec();
+    return application.Run();
 }

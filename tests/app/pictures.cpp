@@ -1,12 +1,13 @@
 // Takes the documentation's pictures from the program: those of the manual, and all twelve windows at three sizes in a
 // light and a dark theme, side by side. Its argument is the folder that they go to.
 #include "Application.h"
-#include "Random.h"
+#include "Azar.h"
 #include "Support.h"
 #include "Windows.h"
 
 #include <QAbstractButton>
 #include <QLineEdit>
+#include <QMainWindow>
 #include <QPainter>
 #include <QStyle>
 
@@ -28,9 +29,10 @@ QPalette Dark()
 template <class Use>
 QImage Picture(const support::Window& window, double scale, Use use)
 {
-    ui::FixSeed(7);
-    ui::Form* form = window.make();
-    form->Open(ui::Modality::Modeless);
+    numeros::FijarSemilla(7);
+    auto screen = window.make();
+    QMainWindow* form = &screen->Window();
+    ui::Form::Open(std::move(screen), ui::Modality::Modeless);
     support::WaitActive(*form);
     form->resize(form->size() * scale);
     support::Settle();
@@ -41,7 +43,7 @@ QImage Picture(const support::Window& window, double scale, Use use)
     return picture;
 }
 
-void AnswerWrongly(const ui::Form& form)
+void AnswerWrongly(const QWidget& form)
 {
     support::Child<QLineEdit>(form, "Text1(4)").setFocus();
     support::Type("7");
@@ -51,12 +53,12 @@ void AnswerWrongly(const ui::Form& form)
     support::Settle();
 }
 
-void ShowSolution(const ui::Form& form)
+void ShowSolution(const QWidget& form)
 {
     support::Child<QAbstractButton>(form, "Command2(2)").click();
 }
 
-void ShowLetters(const ui::Form& form)
+void ShowLetters(const QWidget& form)
 {
     support::Child<QWidget>(form, "Command1").setFocus();
     support::Press(Qt::Key_L);
@@ -64,12 +66,12 @@ void ShowLetters(const ui::Form& form)
 
 struct ManualPicture
 {
-    std::string_view window;
+    QString window;
     const char* file = nullptr;
-    void (*use)(const ui::Form& form) = [](const ui::Form&) {};
+    void (*use)(const QWidget& form) = [](const QWidget&) {};
 };
 
-constexpr ManualPicture manual[]{
+const ManualPicture manual[]{
     {.window = "Form1", .file = "menu"},
     {.window = "Form2", .file = "suma", .use = AnswerWrongly},
     {.window = "FormConversion", .file = "conversion"},
@@ -84,7 +86,7 @@ constexpr ManualPicture manual[]{
 bool SaveManual(const QString& folder)
 {
     return std::ranges::all_of(manual, [&folder](const ManualPicture& picture) {
-        const auto* window = std::ranges::find(support::windows, picture.window, &support::Window::name);
+        const auto window = std::ranges::find(support::Windows(), picture.window, &support::Window::name);
         return Picture(*window, 1, picture.use).save(folder + picture.file + ".png");
     });
 }
@@ -96,13 +98,13 @@ QImage Sheet()
     QList<QList<QImage>> rows;
     QList<int> widths;
     QSize size(gap, gap);
-    for (const support::Window& window : support::windows) {
+    for (const support::Window& window : support::Windows()) {
         QList<QImage> row;
         int height = 0;
         for (const QPalette& theme : {light, Dark()}) {
             QApplication::setPalette(theme);
             for (const double scale : {0.75, 1.0, 1.5}) {
-                const QImage picture = Picture(window, scale, [](const ui::Form&) {});
+                const QImage picture = Picture(window, scale, [](const QWidget&) {});
                 row += picture.scaled(picture.size() * shrink, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
                 height = std::max(height, row.back().height());
             }
@@ -139,8 +141,8 @@ QImage Sheet()
 
 int main(int argc, char** argv)
 {
-    ui::Application application(argc, argv);
-    ui::Application::setQuitOnLastWindowClosed(false);
+    const ui::Application application(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
     const QString folder = QApplication::arguments().value(1, ".");
     return SaveManual(folder + "/manual/") && Sheet().save(folder + "/ventanas.png") ? EXIT_SUCCESS : EXIT_FAILURE;
 }

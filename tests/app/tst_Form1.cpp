@@ -1,9 +1,11 @@
 #include "Form1.h"
 #include "Given.h"
+#include "Look.h"
 #include "Support.h"
 
 #include <QAction>
 #include <QFile>
+#include <QMainWindow>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QRegularExpression>
@@ -32,7 +34,7 @@ class tst_Form1 : public QObject
     Q_OBJECT
 
 private:
-    QPointer<app::Form1> m_menu;
+    QPointer<QMainWindow> m_menu;
 
     QPushButton& Command1(int index) const { return Child<QPushButton>(*m_menu, QString("Command1(%1)").arg(index)); }
 
@@ -47,8 +49,9 @@ private:
 private slots:
     void init()
     {
-        m_menu = new app::Form1;
-        m_menu->Open(ui::Modality::Modeless);
+        auto menu = std::make_unique<app::Form1>();
+        m_menu = &menu->Window();
+        ui::Form::Open(std::move(menu), ui::Modality::Modeless);
         QVERIFY(WaitActive(*m_menu));
     }
     void cleanup()

@@ -143,15 +143,15 @@ private slots:
         }
     }
 
-    void initTestCase() { QCOMPARE(Given().size(), static_cast<qsizetype>(windows.size())); }
+    void initTestCase() { QCOMPARE(Given().size(), static_cast<qsizetype>(Windows().size())); }
 
     void init()
     {
         QFETCH_GLOBAL(QJsonObject, given);
         m_given = given;
-        ui::FixSeed(7);
-        const auto* window = std::ranges::find(windows, given["name"].toString(), &Window::name);
-        QVERIFY(window != windows.end());
+        numeros::FijarSemilla(7);
+        const auto window = std::ranges::find(Windows(), given["name"].toString(), &Window::name);
+        QVERIFY(window != Windows().end());
         OpenScreen(window->make());
     }
     void cleanup() { CloseScreen(); }

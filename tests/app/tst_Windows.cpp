@@ -1,5 +1,6 @@
 // What holds in all twelve windows.
 #include "Given.h"
+#include "Look.h"
 #include "Screen.h"
 #include "Windows.h"
 
@@ -173,7 +174,7 @@ private:
     void EachWindow() const
     {
         QTest::addColumn<QString>("window");
-        for (const Window& window : windows) {
+        for (const Window& window : Windows()) {
             QTest::addRow("%s", window.name) << QString(window.name);
         }
     }
@@ -183,7 +184,7 @@ private:
         QTest::addColumn<QString>("window");
         QTest::addColumn<QPalette>("theme");
         for (const auto& [name, theme] : themes) {
-            for (const Window& window : windows) {
+            for (const Window& window : Windows()) {
                 QTest::addRow("%s, %s", window.name, qPrintable(name)) << QString(window.name) << theme();
             }
         }
@@ -192,7 +193,7 @@ private:
     void OpenIt()
     {
         QFETCH(QString, window);
-        OpenScreen(std::ranges::find(windows, window, &Window::name)->make());
+        OpenScreen(std::ranges::find(Windows(), window, &Window::name)->make());
     }
 
     // What Tab stops at, in that order.
@@ -337,7 +338,7 @@ private:
     }
 
 private slots:
-    void init() { ui::FixSeed(7); }
+    void init() { numeros::FijarSemilla(7); }
     void cleanup()
     {
         CloseScreen();
@@ -574,7 +575,7 @@ private slots:
 
     void opens_larger_where_the_texts_of_the_desktop_are()
     {
-        OpenScreen(new operaciones::Form2);
+        OpenScreen(std::make_unique<operaciones::Form2>());
         const double scale = m_form->logicalDpiX() / 96.0;
         QCOMPARE(m_form->centralWidget()->width(), std::lround(326 * scale));
         QVERIFY(m_form->centralWidget()->height() > 300 * scale);

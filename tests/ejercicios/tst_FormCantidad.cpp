@@ -91,8 +91,8 @@ private:
 private slots:
     void init()
     {
-        ui::FixSeed(7);
-        OpenScreen(new ejercicios::FormCantidad);
+        numeros::FijarSemilla(7);
+        OpenScreen(std::make_unique<ejercicios::FormCantidad>());
     }
     void cleanup() { CloseScreen(); }
 
@@ -131,18 +131,18 @@ private slots:
         QFETCH(int, option);
         QFETCH(int, limit);
         Choose(QString("MnuOpcDenLis(%1)").arg(option));
-        ui::FixSeed(99);
-        ui::Randomize(0);
+        numeros::FijarSemilla(99);
+        numeros::Sembrar(0);
         std::vector<std::array<int, 3>> drawn(manyExercises);
         QSet<int> numerators;
         QSet<int> denominators;
         QSet<int> times;
         for (auto& [numerator, denominator, quantity] : drawn) {
-            numerator = static_cast<int>(10 * ui::Rnd()) + 1;
-            denominator = static_cast<int>((limit - 1) * ui::Rnd()) + 2;
-            quantity = (static_cast<int>(10 * ui::Rnd()) + 1) * denominator;
+            numerator = numeros::Sortear(10, 1);
+            denominator = numeros::Sortear(limit - 1, 2);
+            quantity = numeros::Sortear(10, 1) * denominator;
         }
-        ui::Randomize(0);
+        numeros::Sembrar(0);
         for (const auto& [numerator, denominator, quantity] : drawn) {
             Continue();
             QCOMPARE(Exercise(), QString("%1/%2 de %3").arg(numerator).arg(denominator).arg(quantity));
@@ -180,7 +180,7 @@ private slots:
 
     void the_seed_is_the_time_of_day()
     {
-        VerifySeedOfTheDay([] { return new ejercicios::FormCantidad; }, [this] { return Exercise(); });
+        VerifySeedOfTheDay([] { return std::make_unique<ejercicios::FormCantidad>(); }, [this] { return Exercise(); });
     }
 
     // Reading
@@ -580,7 +580,7 @@ private slots:
         Choose("MnuOpcSal");
         Settle();
         QVERIFY(!m_form);
-        OpenScreen(new ejercicios::FormCantidad);
+        OpenScreen(std::make_unique<ejercicios::FormCantidad>());
         QCOMPARE(Text("tbResultados"), "Ejercicios:  0; Errores:  0");
     }
 };

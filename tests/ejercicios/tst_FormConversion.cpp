@@ -67,8 +67,8 @@ private:
 private slots:
     void init()
     {
-        ui::FixSeed(7);
-        OpenScreen(new ejercicios::FormConversion);
+        numeros::FijarSemilla(7);
+        OpenScreen(std::make_unique<ejercicios::FormConversion>());
     }
     void cleanup() { CloseScreen(); }
 
@@ -89,7 +89,8 @@ private slots:
 
     void the_seed_is_the_timer()
     {
-        VerifySeedOfTheTimer([] { return new ejercicios::FormConversion; }, [this] { return GivenTexts(); });
+        VerifySeedOfTheTimer([] { return std::make_unique<ejercicios::FormConversion>(); },
+                             [this] { return GivenTexts(); });
     }
 
     void each_fraction_is_a_numerator_over_a_bar_over_a_denominator()
@@ -117,20 +118,20 @@ private slots:
 
     void draws_different_denominators()
     {
-        ui::FixSeed(99);
-        ui::Randomize(0);
+        numeros::FijarSemilla(99);
+        numeros::Sembrar(0);
         QList<QStringList> drawn;
         for (int i = 0; i < manyExercises; ++i) {
-            const int b = static_cast<int>(6 * ui::Rnd()) + 2;
+            const int b = numeros::Sortear(6, 2);
             int d = 0;
             do {
-                d = static_cast<int>(6 * ui::Rnd()) + 2;
+                d = numeros::Sortear(6, 2);
             } while (d == b);
-            const int a = static_cast<int>(9 * ui::Rnd()) + 1;
-            const int c = static_cast<int>(9 * ui::Rnd()) + 1;
+            const int a = numeros::Sortear(9, 1);
+            const int c = numeros::Sortear(9, 1);
             drawn += {QString::number(a), QString::number(c), QString::number(b), QString::number(d)};
         }
-        ui::Randomize(0);
+        numeros::Sembrar(0);
         std::array<QSet<int>, 4> seen;
         for (const QStringList& expected : drawn) {
             Continue();

@@ -1,8 +1,8 @@
-#include "Accessible.h"
 #include "Escalera.h"
 #include "FormFactores.h"
 #include "Lectura.h"
 #include "Screen.h"
+#include "Timing.h"
 
 #include <QClipboard>
 #include <QInputDialog>
@@ -109,8 +109,8 @@ private:
 private slots:
     void init()
     {
-        ui::FixSeed(7);
-        OpenScreen(new ejercicios::FormFactores);
+        numeros::FijarSemilla(7);
+        OpenScreen(std::make_unique<ejercicios::FormFactores>());
     }
     void cleanup() { CloseScreen(); }
 
@@ -154,13 +154,13 @@ private slots:
         const QString before = Text("TbValor");
         Choose(QString("MnuOpcValLis(%1)").arg(option));
         QCOMPARE(Text("TbValor"), before); // until Continuar
-        ui::FixSeed(99);
-        ui::Randomize(0);
+        numeros::FijarSemilla(99);
+        numeros::Sembrar(0);
         std::vector<int> drawn(manyExercises);
         for (int& value : drawn) {
-            value = static_cast<int>(limit * ui::Rnd()) + 1;
+            value = numeros::Sortear(limit, 1);
         }
-        ui::Randomize(0);
+        numeros::Sembrar(0);
         QSet<int> seen;
         for (const int value : drawn) {
             Continue();
@@ -182,13 +182,14 @@ private slots:
 
     void the_first_value_is_one_of_a_hundred_by_the_timer()
     {
-        VerifySeedOfTheTimer([] { return new ejercicios::FormFactores; }, [this] { return Text("TbValor"); });
+        VerifySeedOfTheTimer([] { return std::make_unique<ejercicios::FormFactores>(); },
+                             [this] { return Text("TbValor"); });
         for (unsigned seed = 0; seed < 40; ++seed) {
             CloseScreen();
-            ui::FixSeed(seed);
-            ui::Randomize(0);
-            const int drawn = static_cast<int>(100 * ui::Rnd()) + 1; // of 1 to 100
-            OpenScreen(new ejercicios::FormFactores);
+            numeros::FijarSemilla(seed);
+            numeros::Sembrar(0);
+            const int drawn = numeros::Sortear(100, 1); // of 1 to 100
+            OpenScreen(std::make_unique<ejercicios::FormFactores>());
             QCOMPARE(Text("TbValor"), QString::number(drawn));
         }
     }
@@ -540,7 +541,7 @@ private slots:
             SetValue(QString::number(value));
             Button("Command2(2)").click();
             QCOMPARE(Ladder().toPlainText(),
-                     QString::fromStdU16String(ejercicios::EscaleraDe(value)).replace("\r\n", "\n"));
+                     QString::fromStdU16String(reglas::EscaleraDe(value)).replace("\r\n", "\n"));
             Button("Command1").click();
             QVERIFY(Text("Text1").endsWith("Resultado correcto"));
             QCOMPARE(Text("tbResultados"), "Ejercicios:  0; Errores:  0"); // seen, so not counted

@@ -125,8 +125,8 @@ private:
 private slots:
     void init()
     {
-        ui::FixSeed(7);
-        OpenScreen(new ejercicios::FormFichas);
+        numeros::FijarSemilla(7);
+        OpenScreen(std::make_unique<ejercicios::FormFichas>());
     }
     void cleanup() { CloseScreen(); }
 
@@ -182,23 +182,23 @@ private slots:
 
     void draws_boards_with_every_colour()
     {
-        ui::FixSeed(99);
-        ui::Randomize(0);
+        numeros::FijarSemilla(99);
+        numeros::Sembrar(0);
         std::vector<Board> drawn(manyExercises);
         std::vector<std::pair<int, int>> grids(manyExercises);
         for (std::size_t i = 0; i < drawn.size(); ++i) {
             auto& [columns, rows] = grids[i];
             do {
-                columns = static_cast<int>(5 * ui::Rnd()) + 1;
-                rows = static_cast<int>(5 * ui::Rnd()) + 1;
+                columns = numeros::Sortear(5, 1);
+                rows = numeros::Sortear(5, 1);
             } while (columns * rows < 3);
             Board& board = drawn[i];
             board.total = columns * rows;
-            board.red = static_cast<int>((board.total - 2) * ui::Rnd()) + 1;
-            board.yellow = static_cast<int>((board.total - board.red - 1) * ui::Rnd()) + 1;
+            board.red = numeros::Sortear(board.total - 2, 1);
+            board.yellow = numeros::Sortear(board.total - board.red - 1, 1);
             board.green = board.total - board.red - board.yellow;
         }
-        ui::Randomize(0);
+        numeros::Sembrar(0);
         QSet<std::pair<int, int>> seen;
         for (std::size_t i = 0; i < drawn.size(); ++i) {
             Continue();
@@ -436,7 +436,7 @@ private slots:
 
     void the_seed_is_the_timer()
     {
-        VerifySeedOfTheTimer([] { return new ejercicios::FormFichas; }, [this] { return Counts(); });
+        VerifySeedOfTheTimer([] { return std::make_unique<ejercicios::FormFichas>(); }, [this] { return Counts(); });
     }
 };
 

@@ -48,8 +48,8 @@ struct Row
 // What the screen is to draw, step by step.
 Row Drawn()
 {
-    const auto draw = [](int count, int from) { return static_cast<int>(count * ui::Rnd()) + from; };
-    const bool sameDenominator = ui::Rnd() < 0.5;
+    const auto draw = numeros::Sortear;
+    const bool sameDenominator = numeros::Cara();
     const int shared = draw(10, 5);
     std::array<int, 4> varying{draw(10, 1)};
     QString list = QString("%1;").arg(varying[0]);
@@ -101,8 +101,7 @@ private:
 
     static QString Words(int numerator, int denominator)
     {
-        return QString::fromStdString(
-            lenguaje::FraccionEnLetras(numerator, denominator, numerator == 1, lenguaje::Variante::Base));
+        return QString::fromStdString(lenguaje::FraccionEnLetras(numerator, denominator, {}));
     }
 
     QString RowInWords() const
@@ -118,8 +117,8 @@ private:
 private slots:
     void init()
     {
-        ui::FixSeed(7);
-        OpenScreen(new ejercicios::FormOrdenar);
+        numeros::FijarSemilla(7);
+        OpenScreen(std::make_unique<ejercicios::FormOrdenar>());
     }
     void cleanup() { CloseScreen(); }
 
@@ -133,11 +132,11 @@ private slots:
 
     void draws_both_kinds_and_never_in_order()
     {
-        ui::FixSeed(99);
-        ui::Randomize(0);
+        numeros::FijarSemilla(99);
+        numeros::Sembrar(0);
         std::vector<Row> drawn(manyExercises);
         std::ranges::generate(drawn, Drawn);
-        ui::Randomize(0);
+        numeros::Sembrar(0);
         int sameDenominators = 0;
         int oneBeforeTen = 0;
         QSet<int> shared;
@@ -159,7 +158,7 @@ private slots:
 
     void the_seed_is_the_timer()
     {
-        VerifySeedOfTheTimer([] { return new ejercicios::FormOrdenar; }, [this] { return Shown(); });
+        VerifySeedOfTheTimer([] { return std::make_unique<ejercicios::FormOrdenar>(); }, [this] { return Shown(); });
     }
 
     void continuing_leads_to_the_first_fraction()
@@ -300,19 +299,19 @@ private slots:
     {
         QSet<bool> kinds;
         for (unsigned round = 0; round < 200; ++round) {
-            ui::FixSeed(round);
+            numeros::FijarSemilla(round);
             Continue();
             Row expected = Shown();
             const bool same = expected.denominators[0] == expected.denominators[1];
             kinds.insert(same);
             auto& varying = same ? expected.numerators : expected.denominators;
-            ui::Randomize(0);
+            numeros::Sembrar(0);
             do {
-                const int i = static_cast<int>(4 * ui::Rnd());
-                const int j = static_cast<int>(4 * ui::Rnd());
+                const int i = numeros::Sortear(4, 0);
+                const int j = numeros::Sortear(4, 0);
                 std::swap(varying.at(i), varying.at(j));
             } while (expected.Increasing());
-            ui::Randomize(0);
+            numeros::Sembrar(0);
             Button("Command2(1)").click();
             QCOMPARE(Shown(), expected);
         }

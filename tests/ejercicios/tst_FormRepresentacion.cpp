@@ -1,6 +1,6 @@
-#include "Accessible.h"
 #include "FormRepresentacion.h"
 #include "Screen.h"
+#include "Timing.h"
 
 #include <QClipboard>
 #include <QPlainTextEdit>
@@ -78,8 +78,8 @@ private:
 private slots:
     void init()
     {
-        ui::FixSeed(7);
-        OpenScreen(new ejercicios::FormRepresentacion);
+        numeros::FijarSemilla(7);
+        OpenScreen(std::make_unique<ejercicios::FormRepresentacion>());
     }
     void cleanup() { CloseScreen(); }
 
@@ -102,7 +102,8 @@ private slots:
 
     void the_seed_is_the_time_of_day()
     {
-        VerifySeedOfTheDay([] { return new ejercicios::FormRepresentacion; }, [this] { return Fraction(); });
+        VerifySeedOfTheDay([] { return std::make_unique<ejercicios::FormRepresentacion>(); },
+                           [this] { return Fraction(); });
     }
 
     void tab_goes_round_in_the_given_order()
@@ -144,14 +145,14 @@ private slots:
 
     void draws_the_smaller_value_as_numerator()
     {
-        ui::FixSeed(99);
-        ui::Randomize(0);
+        numeros::FijarSemilla(99);
+        numeros::Sembrar(0);
         std::vector<std::pair<int, int>> drawn(manyExercises);
         for (auto& [a, b] : drawn) {
-            a = static_cast<int>(10 * ui::Rnd()) + 1;
-            b = static_cast<int>(9 * ui::Rnd()) + 2;
+            a = numeros::Sortear(10, 1);
+            b = numeros::Sortear(9, 2);
         }
-        ui::Randomize(0);
+        numeros::Sembrar(0);
         QSet<QString> seen;
         for (const auto& [a, b] : drawn) {
             Continue();

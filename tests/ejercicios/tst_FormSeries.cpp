@@ -21,14 +21,14 @@ struct Series
 
 int Draw(int count, int from)
 {
-    return static_cast<int>(count * ui::Rnd()) + from;
+    return numeros::Sortear(count, from);
 }
 
 // What the screen is to draw, straight from its rules.
 Eight Arithmetic()
 {
     int step = Draw(7, 1);
-    step = ui::Rnd() < 0.5 ? -step : step;
+    step = numeros::Cara() ? -step : step;
     const int start = step < 0 ? Draw(8, 0) + std::abs(8 * step) : Draw(8, 1);
     Eight run{};
     for (int i = 0; i < 8; ++i) {
@@ -40,9 +40,9 @@ Eight Arithmetic()
 std::optional<Eight> Changing(bool level3)
 {
     int step = Draw(7, 1);
-    step = ui::Rnd() < 0.5 ? -step : step;
+    step = numeros::Cara() ? -step : step;
     int change = Draw(5, 1);
-    change = ui::Rnd() < 0.5 ? -change : change;
+    change = numeros::Cara() ? -change : change;
     int term = 0;
     if (step < 0) {
         term = Draw(8, 0) + std::abs(8 * step) + std::abs(5 * change);
@@ -192,8 +192,7 @@ private:
 
     static QString Words(int numerator, int denominator)
     {
-        return QString::fromStdString(
-            lenguaje::FraccionEnLetras(numerator, denominator, numerator == 1, lenguaje::Variante::Base));
+        return QString::fromStdString(lenguaje::FraccionEnLetras(numerator, denominator, {}));
     }
 
     // The series on view as it is to be told.
@@ -209,8 +208,8 @@ private:
 private slots:
     void init()
     {
-        ui::FixSeed(7);
-        OpenScreen(new ejercicios::FormSeries);
+        numeros::FijarSemilla(7);
+        OpenScreen(std::make_unique<ejercicios::FormSeries>());
     }
     void cleanup() { CloseScreen(); }
 
@@ -230,7 +229,7 @@ private slots:
 
     void the_seed_is_the_time_of_day()
     {
-        VerifySeedOfTheDay([] { return new ejercicios::FormSeries; },
+        VerifySeedOfTheDay([] { return std::make_unique<ejercicios::FormSeries>(); },
                            [this] { return std::pair(Numerators(), Denominators()); });
     }
 
@@ -256,8 +255,8 @@ private slots:
         while (Blank() != chosen + 3) {
             Continue(); // the first series of this level may be abandoned
         }
-        ui::FixSeed(99);
-        ui::Randomize(0);
+        numeros::FijarSemilla(99);
+        numeros::Sembrar(0);
         std::vector<std::optional<Series>> drawn(only ? manyExercises : manyExercises / 5);
         QSet<std::pair<int, int>> kinds;
         for (std::optional<Series>& series : drawn) {
@@ -267,7 +266,7 @@ private slots:
             series = Drawn(level, sublevel);
         }
         QCOMPARE(kinds.size(), only ? 1 : 2 * (chosen - 1) + letter);
-        ui::Randomize(0);
+        numeros::Sembrar(0);
         std::optional<Series> onView;
         int abandoned = 0;
         for (const std::optional<Series>& series : drawn) {

@@ -7,9 +7,9 @@
 
 namespace {
 
-std::array<int, ejercicios::filasEscalera> Sorted(const ejercicios::Divisores& divisors)
+std::array<int, reglas::filasEscalera> Sorted(const reglas::Divisores& divisors)
 {
-    std::array<int, ejercicios::filasEscalera> numbers{};
+    std::array<int, reglas::filasEscalera> numbers{};
     std::ranges::transform(divisors, numbers.begin(), [](numeros::Entero16 number) { return number.Valor(); });
     std::ranges::sort(numbers);
     return numbers;
@@ -26,17 +26,17 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         text += static_cast<char16_t>(byte < 128 ? byte : 256 * input.Byte() + byte);
     }
     try {
-        ejercicios::Divisores divisors = ejercicios::Escalera(text, 0).LeerDivisores();
+        reglas::Divisores divisors = reglas::Escalera(text, 0).LeerDivisores();
         const auto rows = std::ranges::count(text, u'\n');
-        for (std::size_t i = static_cast<std::size_t>(std::min<std::ptrdiff_t>(rows, ejercicios::filasEscalera));
+        for (std::size_t i = static_cast<std::size_t>(std::min<std::ptrdiff_t>(rows, reglas::filasEscalera));
              i < divisors.size(); ++i) {
             EXPECT(divisors.at(i) == 0);
         }
         const auto before = Sorted(divisors);
-        ejercicios::Ordenar(divisors);
+        reglas::Ordenar(divisors);
         EXPECT(Sorted(divisors) == before);
-        (void)ejercicios::Lista(divisors);
-        int product = ejercicios::Producto(divisors).Valor();
+        (void)reglas::Lista(divisors);
+        int product = reglas::Producto(divisors).Valor();
         for (const numeros::Entero16 divisor : divisors) {
             if (divisor.Valor() < 2) {
                 break;

@@ -52,13 +52,13 @@ struct Naive
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     Input keys(data, size);
-    ejercicios::Escalera ladder;
+    reglas::Escalera ladder;
     Naive naive{{}, ladder.Texto()};
     while (!keys.IsEmpty()) {
         switch (const std::uint8_t key = keys.Byte()) {
         case 0: { // the caret goes elsewhere
             const int caret = keys.Byte();
-            ladder = ejercicios::Escalera(ladder.Texto(), caret);
+            ladder = reglas::Escalera(ladder.Texto(), caret);
             const std::u16string all = naive.before + naive.behind;
             const std::size_t at = std::min(all.size(), static_cast<std::size_t>(caret));
             naive = {all.substr(0, at), all.substr(at)};

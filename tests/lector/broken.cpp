@@ -1,8 +1,8 @@
 // The program with a fault that no lesson may pass over: the one that KELVORA_FAULT names, built in place of
-// ui/Accessible.cpp. The real announcing is in here under another name.
+// ui/reader/Accessible.cpp. The real announcing is in here under another name.
 #define Announce AnnounceRightly
 #define SetUpAccessibility SetUpRightly
-#include "../../ui/Accessible.cpp" // NOLINT(bugprone-suspicious-include)
+#include "../../ui/reader/Accessible.cpp" // NOLINT(bugprone-suspicious-include)
 #undef Announce
 #undef SetUpAccessibility
 

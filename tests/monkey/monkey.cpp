@@ -1,8 +1,8 @@
 // A monkey at the keyboard and the mouse: random events over all windows, and after each of them what must be true of
 // every one. Arguments: number of events and seed; the same ones do the same again. Without a seed it takes a new one.
 #include "Application.h"
+#include "Azar.h"
 #include "Form1.h"
-#include "Random.h"
 #include "Support.h"
 #include "Windows.h"
 
@@ -11,6 +11,7 @@
 #include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMainWindow>
 #include <QMenu>
 #include <QPointer>
 #include <QRegularExpression>
@@ -48,9 +49,9 @@ public:
         qInfo("%d windows, %d announcements, %d points, %d events in boxes", static_cast<int>(m_seen.size()), m_said,
               m_checks, m_boxes);
         constexpr int longWalk = 20'000;
-        for (const support::Window& window : support::windows) {
+        for (const support::Window& window : support::Windows()) {
             if (m_events >= longWalk && !m_seen.contains(window.name)) {
-                Fail(QString("%1 was not seen").arg(window.name));
+                Fail(window.name + " was not seen");
             }
         }
     }
@@ -86,7 +87,7 @@ private:
     }
 
     // All windows closed: the program would have ended, and starts again.
-    static void Restart() { (new app::Form1)->Open(ui::Modality::Modeless); }
+    static void Restart() { ui::Form::Open(std::make_unique<app::Form1>(), ui::Modality::Modeless); }
 
     void Act()
     {
@@ -239,7 +240,7 @@ private:
     {
         QList<QWidget*> windows;
         for (QWidget* window : QApplication::topLevelWidgets()) {
-            if (dynamic_cast<ui::Form*>(window) != nullptr && window->isVisible()) {
+            if (qobject_cast<QMainWindow*>(window) != nullptr && window->isVisible()) {
                 windows += window;
             }
         }
@@ -378,13 +379,13 @@ private:
 
 int main(int argc, char** argv)
 {
-    ui::Application application(argc, argv);
-    ui::Application::setQuitOnLastWindowClosed(false);
+    const ui::Application application(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
     const QStringList arguments = QApplication::arguments();
     const int events = arguments.value(1, "1000").toInt();
     const std::uint32_t seed = arguments.size() > 2 ? arguments.at(2).toUInt() : std::random_device()();
     qInfo("monkey %d %u", events, seed);
-    ui::FixSeed(seed);
+    numeros::FijarSemilla(seed);
     support::SetReader(true);
     const support::Ear ear;
     Monkey monkey(seed, events);

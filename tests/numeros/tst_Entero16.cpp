@@ -21,9 +21,9 @@ private slots:
         QCOMPARE((Entero16(-7) / Entero16(2)).Valor(), -3);
         Entero16 n = 5;
         n += 3;
-        n -= 10;
-        QCOMPARE(n.Valor(), -2);
+        QCOMPARE(n.Valor(), 8);
         QVERIFY(Entero16(-1) == Entero16(-1) && Entero16(-1) != Entero16(1));
+        QVERIFY(Entero16(-2) < Entero16(-1) && Entero16(3) > 2 && Entero16(2) >= 2);
         QCOMPARE(Entero16().Valor(), 0);
     }
 

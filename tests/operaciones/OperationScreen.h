@@ -135,15 +135,15 @@ protected:
     void DrawExercises(int range, Verify verify) const
     {
         Choose(QString("MnuOpcCanLis(%1)").arg(range));
-        ui::FixSeed(99);
-        ui::Randomize(0);
+        numeros::FijarSemilla(99);
+        numeros::Sembrar(0);
         std::vector<Operands> drawn(manyExercises);
         for (Operands& values : drawn) {
             for (int& value : values) {
-                value = static_cast<int>((limits.at(range) - 1) * ui::Rnd()) + 2;
+                value = numeros::Sortear(limits.at(range) - 1, 2);
             }
         }
-        ui::Randomize(0);
+        numeros::Sembrar(0);
         for (const Operands& values : drawn) {
             Continue();
             verify(values, Shown());

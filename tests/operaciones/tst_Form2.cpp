@@ -10,8 +10,8 @@ class tst_Form2 : public QObject, private OperationScreen
 private slots:
     void init()
     {
-        ui::FixSeed(7);
-        OpenScreen(new operaciones::Form2);
+        numeros::FijarSemilla(7);
+        OpenScreen(std::make_unique<operaciones::Form2>());
     }
     void cleanup() { CloseScreen(); }
 

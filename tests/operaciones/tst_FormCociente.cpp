@@ -10,8 +10,8 @@ class tst_FormCociente : public QObject, private OperationScreen
 private slots:
     void init()
     {
-        ui::FixSeed(7);
-        OpenScreen(new operaciones::FormCociente);
+        numeros::FijarSemilla(7);
+        OpenScreen(std::make_unique<operaciones::FormCociente>());
     }
     void cleanup() { CloseScreen(); }
 

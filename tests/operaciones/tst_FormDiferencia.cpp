@@ -32,8 +32,8 @@ class tst_FormDiferencia : public QObject, private OperationScreen
 private slots:
     void init()
     {
-        ui::FixSeed(7);
-        OpenScreen(new operaciones::FormDiferencia);
+        numeros::FijarSemilla(7);
+        OpenScreen(std::make_unique<operaciones::FormDiferencia>());
     }
     void cleanup() { CloseScreen(); }
 

@@ -23,7 +23,7 @@ enum class AfterWrong { Stays, ToResult, Emptied };
 struct Expected
 {
     const char* title;
-    ui::Form* (*create)();
+    std::unique_ptr<ui::Form> (*create)();
     const char* sign;
     const char* spokenSign;
     const char* wrong = "Resultado incorrecto ";
@@ -37,15 +37,9 @@ struct Expected
     const char* solution;
 };
 
-template <class Form>
-ui::Form* New()
-{
-    return new Form;
-}
-
 constexpr Expected screens[]{
     {.title = "SUMA DE FRACCIONES",
-     .create = New<operaciones::Form2>,
+     .create = Make<operaciones::Form2>,
      .sign = "+",
      .spokenSign = "+",
      .wrong = "Resultado incorrecto",
@@ -55,7 +49,7 @@ constexpr Expected screens[]{
      .denominator = 7,
      .solution = "ocho séptimos"},
     {.title = "DIFERENCIA DE FRACCIONES",
-     .create = New<operaciones::FormDiferencia>,
+     .create = Make<operaciones::FormDiferencia>,
      .sign = "-",
      .spokenSign = "-",
      .afterWrong = AfterWrong::Emptied,
@@ -64,7 +58,7 @@ constexpr Expected screens[]{
      .denominator = 7,
      .solution = "dos séptimos"},
     {.title = "PRODUCTO DE FRACCIONES",
-     .create = New<operaciones::FormProducto>,
+     .create = Make<operaciones::FormProducto>,
      .sign = "x",
      .spokenSign = " por ",
      .operandsCheck = false,
@@ -72,7 +66,7 @@ constexpr Expected screens[]{
      .denominator = 49,
      .solution = "quince cuarenta y nueveavos"},
     {.title = "COCIENTE DE FRACCIONES",
-     .create = New<operaciones::FormCociente>,
+     .create = Make<operaciones::FormCociente>,
      .sign = "÷",
      .spokenSign = "÷",
      .alternates = false,
@@ -132,7 +126,7 @@ private slots:
     {
         QFETCH_GLOBAL(const Expected*, screen);
         m_screen = screen;
-        ui::FixSeed(7);
+        numeros::FijarSemilla(7);
         OpenScreen(screen->create());
     }
     void cleanup() { CloseScreen(); }
@@ -538,8 +532,7 @@ private slots:
     void the_exercise_in_the_boxes_is_the_one_that_is_read()
     {
         const auto words = [](int numerator, int denominator) {
-            return QString::fromStdString(
-                lenguaje::FraccionEnLetras(numerator, denominator, numerator == 1, lenguaje::Variante::Base));
+            return QString::fromStdString(lenguaje::FraccionEnLetras(numerator, denominator, {}));
         };
         for (int i = 0; i < 20; ++i) {
             const auto [n1, d1, n2, d2] = Shown();

@@ -10,8 +10,8 @@ class tst_FormProducto : public QObject, private OperationScreen
 private slots:
     void init()
     {
-        ui::FixSeed(7);
-        OpenScreen(new operaciones::FormProducto);
+        numeros::FijarSemilla(7);
+        OpenScreen(std::make_unique<operaciones::FormProducto>());
     }
     void cleanup() { CloseScreen(); }
 

@@ -1,13 +1,15 @@
 // A screen that is open, the pupil's hands on it, and an ear: what a test of a screen is built on.
 #pragma once
 
+#include "Azar.h"
+#include "Clock.h"
 #include "Form.h"
-#include "Random.h"
 #include "Support.h"
 
 #include <QAction>
 #include <QActionGroup>
 #include <QLineEdit>
+#include <QMainWindow>
 #include <QPointer>
 #include <QPushButton>
 #include <QScopeGuard>
@@ -17,14 +19,20 @@
 
 namespace support {
 
+template <class Form>
+std::unique_ptr<ui::Form> Make()
+{
+    return std::make_unique<Form>();
+}
+
 class Screen
 {
 protected:
-    void OpenScreen(ui::Form* form)
+    void OpenScreen(std::unique_ptr<ui::Form> form)
     {
         m_ear = std::make_unique<Ear>();
-        m_form = form;
-        m_form->Open(ui::Modality::Modeless);
+        m_form = &form->Window();
+        ui::Form::Open(std::move(form), ui::Modality::Modeless);
         QVERIFY(WaitActive(*m_form));
     }
 
@@ -36,7 +44,7 @@ protected:
         Settle();
         QVERIFY(!m_form);
         m_ear.reset();
-        ui::FixSeed({});
+        numeros::FijarSemilla({});
         QVERIFY(QApplication::topLevelWidgets().isEmpty());
     }
 
@@ -82,9 +90,9 @@ protected:
     {
         const auto reopened = [&] {
             CloseScreen();
-            ui::FixSeed(7);
-            ui::Randomize(0); // so that it is not for what was drawn before that they differ
-            ui::FixSeed({});
+            numeros::FijarSemilla(7);
+            numeros::Sembrar(0); // so that it is not for what was drawn before that they differ
+            numeros::FijarSemilla({});
             OpenScreen(create());
             return read();
         };
@@ -105,7 +113,7 @@ protected:
         const auto restore = qScopeGuard([] { ui::FixTimeOfDay({}); });
         const auto reopened = [&](std::optional<std::uint32_t> seed) {
             CloseScreen();
-            ui::FixSeed(seed);
+            numeros::FijarSemilla(seed);
             OpenScreen(create());
             return read();
         };
@@ -140,7 +148,7 @@ protected:
         return Child<QWidget>(*m_form, name).geometry() == QRect(topLeft, end - QPoint(1, 1));
     }
 
-    QPointer<ui::Form> m_form;
+    QPointer<QMainWindow> m_form;
     std::unique_ptr<Ear> m_ear;
 };
 

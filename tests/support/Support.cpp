@@ -3,6 +3,7 @@
 #include "Application.h"
 #include "Bell.h"
 
+#include <QApplication>
 #include <QDialog>
 #include <QPointer>
 #include <QTimer>
@@ -24,8 +25,8 @@ void SetReader(bool on)
 
 int Run(QObject& test, int argc, char** argv)
 {
-    ui::Application application(argc, argv);
-    ui::Application::setQuitOnLastWindowClosed(false);
+    const ui::Application application(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
     SetReader(true);
     return QTest::qExec(&test, argc, argv);
 }

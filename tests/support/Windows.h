@@ -2,47 +2,31 @@
 #pragma once
 
 #include "Form1.h"
-#include "Form2.h"
-#include "FormCantidad.h"
-#include "FormCociente.h"
-#include "FormConversion.h"
-#include "FormDiferencia.h"
-#include "FormFactores.h"
-#include "FormFichas.h"
-#include "FormOrdenar.h"
-#include "FormProducto.h"
-#include "FormRepresentacion.h"
-#include "FormSeries.h"
+#include "Pantallas.h"
 
-#include <array>
+#include <QString>
+
+#include <vector>
 
 namespace support {
 
 struct Window
 {
-    const char* name = nullptr;
-    ui::Form* (*make)() = nullptr;
+    QString name;
+    std::unique_ptr<ui::Form> (*make)() = nullptr;
 };
 
-template <class Screen>
-ui::Form* Make()
+// The menu first.
+inline const std::vector<Window>& Windows()
 {
-    return new Screen;
+    static const std::vector<Window> windows = [] {
+        std::vector<Window> all{{"Form1", app::Crear<app::Form1>}};
+        for (const app::Pantalla& pantalla : app::pantallas) {
+            all.push_back({QString::fromLatin1(pantalla.nombre), pantalla.crear});
+        }
+        return all;
+    }();
+    return windows;
 }
-
-inline constexpr std::array<Window, 12> windows{{
-    {"Form1", Make<app::Form1>},
-    {"FormRepresentacion", Make<ejercicios::FormRepresentacion>},
-    {"FormFichas", Make<ejercicios::FormFichas>},
-    {"FormCantidad", Make<ejercicios::FormCantidad>},
-    {"FormFactores", Make<ejercicios::FormFactores>},
-    {"FormOrdenar", Make<ejercicios::FormOrdenar>},
-    {"FormConversion", Make<ejercicios::FormConversion>},
-    {"Form2", Make<operaciones::Form2>},
-    {"FormDiferencia", Make<operaciones::FormDiferencia>},
-    {"FormProducto", Make<operaciones::FormProducto>},
-    {"FormCociente", Make<operaciones::FormCociente>},
-    {"FormSeries", Make<ejercicios::FormSeries>},
-}};
 
 } // namespace support

@@ -3,6 +3,9 @@
 
 #include "Form.h"
 
+#include <QMainWindow>
+#include <QPointer>
+
 namespace sample {
 
 using enum ui::Kind;
@@ -12,21 +15,26 @@ constexpr ui::ControlDesign controls[]{
     {.name = "Text1",
      .index = 0,
      .text = "uno",
-     .says = "Primera caja",
+     .accessibleName = "Primera caja",
      .place = {1200, 100, 1500, 400},
      .tab = 2,
      .typing = ui::Typing::Editable},
-    {.name = "Text1", .index = 1, .text = "dos", .says = "Segunda caja", .place = {1200, 600, 1500, 400}, .tab = 0},
-    {.kind = MultiLine,
+    {.name = "Text1",
+     .index = 1,
+     .text = "dos",
+     .accessibleName = "Segunda caja",
+     .place = {1200, 600, 1500, 400},
+     .tab = 0},
+    {.kind = TextArea,
      .name = "TbDesco",
      .text = "a\r\nb",
-     .says = "Escalera",
+     .accessibleName = "Escalera",
      .place = {1200, 1100, 1500, 900},
      .tab = 3,
      .typing = ui::Typing::Editable},
     {.kind = Frame, .name = "Frame1", .text = "ROJO", .place = {100, 2100, 2600, 1200}, .color = ui::Color::Red},
     {.name = "TBFrac",
-     .says = "Numerador rojo",
+     .accessibleName = "Numerador rojo",
      .place = {200, 400, 600, 400},
      .tab = 4,
      .inside = "Frame1",
@@ -39,12 +47,12 @@ constexpr ui::ControlDesign controls[]{
      .inside = "Frame1",
      .speaking = ui::Speaking::Spoken},
     {.name = "TbMensajes",
-     .says = "Mensajes",
+     .accessibleName = "Mensajes",
      .place = {100, 3400, 2600, 400},
      .tab = 5,
      .speaking = ui::Speaking::Spoken},
     {.name = "Text3",
-     .says = "Resultado",
+     .accessibleName = "Resultado",
      .place = {100, 3900, 2600, 400},
      .tab = 6,
      .speaking = ui::Speaking::Spoken,
@@ -55,7 +63,7 @@ constexpr ui::ControlDesign controls[]{
     {.kind = Button, .name = "CbDos", .text = "Otro &doble", .place = {1400, 5400, 1200, 500}, .tab = 10},
     {.name = "tbResultados",
      .text = "Ejercicios:  0",
-     .says = "Marcador",
+     .accessibleName = "Marcador",
      .place = {100, 5900, 2600, 100},
      .tab = 11,
      .speaking = ui::Speaking::Score},
@@ -76,12 +84,12 @@ constexpr ui::MenuDesign menus[]{
 class SampleForm final : public ui::Form
 {
 public:
-    explicit SampleForm(std::span<const ui::MenuDesign> entries = menus)
+    explicit SampleForm(ui::Menus entries = menus)
         : Form({.name = "Muestra",
                 .caption = "Muestra",
                 .width = 3300,
                 .height = 6000,
-                .controls = controls,
+                .controls = {controls, ui::Controls::AccessKeys::Shared},
                 .menus = entries})
     {
     }
@@ -107,6 +115,36 @@ private:
     {
         return OnKeyDown ? OnKeyDown(KeyCode, Shift) : ui::KeyResult::Pass;
     }
+};
+
+// One that is not open yet; it is closed at the latest where it ends.
+class Sample final
+{
+public:
+    explicit Sample(ui::Menus entries = menus)
+        : m_unopened(std::make_unique<SampleForm>(entries)), m_form(*m_unopened), m_window(&m_form.Window())
+    {
+    }
+    ~Sample()
+    {
+        if (!m_unopened) {
+            delete m_window.data();
+        }
+    }
+    Sample(const Sample&) = delete;
+    Sample& operator=(const Sample&) = delete;
+
+    void Open(ui::Modality modality = ui::Modality::Modeless, const ui::Form* opener = nullptr)
+    {
+        ui::Form::Open(std::move(m_unopened), modality, opener);
+    }
+    SampleForm& Form() const { return m_form; }
+    QMainWindow* Window() const { return m_window; }
+
+private:
+    std::unique_ptr<SampleForm> m_unopened;
+    SampleForm& m_form;
+    QPointer<QMainWindow> m_window;
 };
 
 } // namespace sample

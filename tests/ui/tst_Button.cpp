@@ -1,6 +1,7 @@
-#include "Accessible.h"
+#include "Look.h"
 #include "SampleForm.h"
 #include "Support.h"
+#include "Timing.h"
 
 #include <QAbstractButton>
 
@@ -11,26 +12,29 @@ class tst_Button : public QObject
     Q_OBJECT
 
 private:
-    std::unique_ptr<sample::SampleForm> m_form;
+    std::unique_ptr<sample::Sample> m_sample;
+    sample::SampleForm* m_form = nullptr;
+    QMainWindow* m_window = nullptr;
     QStringList m_clicked;
 
-    QWidget& Widget(const QString& name) const { return Child<QWidget>(*m_form, name); }
+    QWidget& Widget(const QString& name) const { return Child<QWidget>(*m_window, name); }
 
 private slots:
     void init()
     {
-        m_form = std::make_unique<sample::SampleForm>();
-        m_form->setAttribute(Qt::WA_DeleteOnClose, false);
+        m_sample = std::make_unique<sample::Sample>();
+        m_form = &m_sample->Form();
+        m_window = m_sample->Window();
         m_clicked.clear();
         for (const char* name : {"Command2", "CbUno", "CbDos"}) {
             for (ui::Button& button : m_form->All<ui::Button>(name)) {
                 button.OnClick = [this, name](int Index) { m_clicked += QString("%1/%2").arg(name).arg(Index); };
             }
         }
-        m_form->Open(ui::Modality::Modeless);
-        QVERIFY(WaitActive(*m_form));
+        m_sample->Open();
+        QVERIFY(WaitActive(*m_window));
     }
-    void cleanup() { m_form.reset(); }
+    void cleanup() { m_sample.reset(); }
 
     void is_pressed_by_its_access_key_at_once()
     {
@@ -156,12 +160,12 @@ private slots:
             return QAccessible::queryAccessibleInterface(&Widget("CbUno"))->text(QAccessible::Name);
         };
         auto& button = m_form->The<ui::Button>("CbUno");
-        button.Says("ficha roja");
+        button.AccessibleName("ficha roja");
         QCOMPARE(name(), "ficha roja");
         button.Caption("R");
         QCOMPARE(button.Caption(), "R");
         QCOMPARE(name(), "ficha roja");
-        button.Says("");
+        button.AccessibleName("");
         QCOMPARE(name(), "R");
     }
 

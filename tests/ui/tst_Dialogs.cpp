@@ -1,7 +1,7 @@
-#include "Accessible.h"
 #include "Dialogs.h"
 #include "SampleForm.h"
 #include "Support.h"
+#include "Timing.h"
 
 #include <QDialogButtonBox>
 #include <QInputDialog>
@@ -132,18 +132,17 @@ private slots:
 
     void what_was_just_said_is_told_before_the_text_and_not_again()
     {
-        sample::SampleForm form;
-        form.setAttribute(Qt::WA_DeleteOnClose, false);
-        form.Open(ui::Modality::Modeless);
-        QVERIFY(WaitActive(form));
+        sample::Sample form;
+        form.Open();
+        QVERIFY(WaitActive(*form.Window()));
         Ear ear;
         QString label;
         const auto show = [&] {
             ui::MsgBox("El producto");
             ui::MsgBox("Otra cosa");
         };
-        form.The<ui::Button>("CbUno").OnClick = [&](int) {
-            form.The<ui::TextBox>("Text3").Text(" Resultado incorrecto");
+        form.Form().The<ui::Button>("CbUno").OnClick = [&](int) {
+            form.Form().The<ui::TextBox>("Text3").Text(" Resultado incorrecto");
             show();
         };
         QStringList told;
@@ -152,23 +151,23 @@ private slots:
             for (const QString& heard : Ear::TakeSoFar()) {
                 before += heard.startsWith("SAY") ? QStringList(heard) : QStringList();
             }
-            QCOMPARE(dialog.parentWidget(), &form);
+            QCOMPARE(dialog.parentWidget(), form.Window());
             const auto& text = Child<QLabel>(dialog, "qt_msgbox_label");
             told += QAccessible::queryAccessibleInterface(&const_cast<QLabel&>(text))->text(QAccessible::Name);
             told += text.text();
             QTest::keyClick(&dialog, Qt::Key_Return);
         };
-        WithDialogs([&form] { Child<QPushButton>(form, "CbUno").click(); }, {answer, answer});
+        WithDialogs([&form] { Child<QPushButton>(*form.Window(), "CbUno").click(); }, {answer, answer});
         WithDialog([] { ui::InputBox("Introduzca la cantidad:", "Introducir cantidad"); },
                    [&form](QWidget& dialog) {
-                       QCOMPARE(dialog.parentWidget(), &form);
+                       QCOMPARE(dialog.parentWidget(), form.Window());
                        QTest::keyClick(&dialog, Qt::Key_Escape);
                    });
         const QString withText = ui::boxesCutMessagesOff ? "Resultado incorrecto. " : "";
         QCOMPARE(told, QStringList({withText + "El producto", "El producto", "Otra cosa", "Otra cosa"}));
         QCOMPARE(before, ui::boxesCutMessagesOff ? QStringList() : QStringList("SAY  Resultado incorrecto"));
-        form.activateWindow();
-        QVERIFY(WaitActive(form));
+        form.Window()->activateWindow();
+        QVERIFY(WaitActive(*form.Window()));
         QCOMPARE(ear.TakeSaid(), QStringList());
     }
 
@@ -206,27 +205,26 @@ private slots:
 
     void keys_that_come_while_a_box_is_about_to_open_do_nothing()
     {
-        sample::SampleForm form;
-        form.setAttribute(Qt::WA_DeleteOnClose, false);
-        form.Open(ui::Modality::Modeless);
-        QVERIFY(WaitActive(form));
+        sample::Sample form;
+        form.Open();
+        QVERIFY(WaitActive(*form.Window()));
         int clicks = 0;
-        ui::TextBox& box = form.All<ui::TextBox>("Text1")[0];
-        form.The<ui::Button>("CbUno").OnClick = [&](int) {
+        ui::TextBox& box = form.Form().All<ui::TextBox>("Text1")[0];
+        form.Form().The<ui::Button>("CbUno").OnClick = [&](int) {
             ++clicks;
             // Keys that a screen reader was asked about come back while the box has not opened yet.
             for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
-                QCoreApplication::postEvent(form.windowHandle(),
+                QCoreApplication::postEvent(form.Window()->windowHandle(),
                                             new QKeyEvent(type, Qt::Key_Space, Qt::NoModifier, " "));
             }
-            QWindowSystemInterface::handleCloseEvent(form.windowHandle());
+            QWindowSystemInterface::handleCloseEvent(form.Window()->windowHandle());
             ui::MsgBox("Texto");
         };
-        form.The<ui::Button>("CbUno").SetFocus();
-        WithDialog([&form] { Child<QPushButton>(form, "CbUno").click(); },
+        form.Form().The<ui::Button>("CbUno").SetFocus();
+        WithDialog([&form] { Child<QPushButton>(*form.Window(), "CbUno").click(); },
                    [](QWidget& dialog) { QTest::keyClick(&dialog, Qt::Key_Return); });
         QCOMPARE(clicks, 1);
-        QVERIFY(form.isVisible());
+        QVERIFY(form.Window()->isVisible());
         QCOMPARE(box.Text(), std::string("uno"));
     }
 

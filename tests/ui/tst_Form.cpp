@@ -1,4 +1,5 @@
 #include "Entero16.h"
+#include "Look.h"
 #include "SampleForm.h"
 #include "Support.h"
 
@@ -9,6 +10,7 @@
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QPlainTextEdit>
+#include <QPushButton>
 #include <QTimer>
 #include <QWindow>
 
@@ -20,43 +22,47 @@ class tst_Form : public QObject
     Q_OBJECT
 
 private:
-    QPointer<sample::SampleForm> m_form;
+    std::unique_ptr<sample::Sample> m_sample;
+    sample::SampleForm* m_form = nullptr;
+    QPointer<QMainWindow> m_window;
 
-    void Open(ui::Modality modality = ui::Modality::Modeless)
+    void Make(ui::Menus menus = sample::menus)
     {
-        m_form->Open(modality);
-        QVERIFY(WaitActive(*m_form));
+        m_sample = std::make_unique<sample::Sample>(menus);
+        m_form = &m_sample->Form();
+        m_window = m_sample->Window();
+    }
+    void Open(ui::Modality modality = ui::Modality::Modeless, const ui::Form* opener = nullptr)
+    {
+        m_sample->Open(modality, opener);
+        QVERIFY(WaitActive(*m_window));
     }
     ui::TextBox& Box(std::string_view name) const { return m_form->The<ui::TextBox>(name); }
 
 private slots:
-    void init() { m_form = new sample::SampleForm; }
+    void init() { Make(); }
     void cleanup()
     {
-        if (m_form) {
-            m_form->close();
-            delete m_form;
-        }
+        m_sample.reset();
         Settle();
     }
 
     void opens_as_a_window_of_its_size_with_the_menu_bar_on_top()
     {
         Open();
-        QCOMPARE(m_form->centralWidget()->size(), QSize(220, 400));
-        QCOMPARE(m_form->height(), 400 + m_form->menuBar()->height());
-        QCOMPARE(m_form->windowTitle(), "Muestra");
-        QCOMPARE(QAccessible::queryAccessibleInterface(m_form)->role(), QAccessible::Window);
+        QCOMPARE(m_window->centralWidget()->size(), QSize(220, 400));
+        QCOMPARE(m_window->height(), 400 + m_window->menuBar()->height());
+        QCOMPARE(m_window->windowTitle(), "Muestra");
+        QCOMPARE(QAccessible::queryAccessibleInterface(m_window)->role(), QAccessible::Window);
     }
 
     void a_screen_without_menus_has_no_menu_bar()
     {
-        delete m_form;
-        m_form = new sample::SampleForm(std::span<const ui::MenuDesign>());
+        Make({});
         Open();
-        QVERIFY(m_form->menuWidget() == nullptr);
-        QVERIFY(m_form->findChildren<QMenuBar*>().isEmpty());
-        const QAccessibleInterface* tree = QAccessible::queryAccessibleInterface(m_form);
+        QVERIFY(m_window->menuWidget() == nullptr);
+        QVERIFY(m_window->findChildren<QMenuBar*>().isEmpty());
+        const QAccessibleInterface* tree = QAccessible::queryAccessibleInterface(m_window);
         for (int i = 0; i < tree->childCount(); ++i) {
             QVERIFY(tree->child(i)->role() != QAccessible::MenuBar);
         }
@@ -73,13 +79,13 @@ private slots:
             const QString name = QString::fromUtf8(design.name.data(), qsizetype(design.name.size())) +
                                  (design.index < 0 ? QString() : QString("(%1)").arg(design.index));
             if (design.inside.empty()) { // inside a box, edges may be rounded into it
-                QCOMPARE(Child<QWidget>(*m_form, name).geometry(), ui::ToPixels(design.place, 1));
+                QCOMPARE(Child<QWidget>(*m_window, name).geometry(), ui::ToPixels(design.place, 1));
             }
         }
         // Twice as large, everything is.
-        m_form->resize(440, 800 + m_form->menuBar()->height());
+        m_window->resize(440, 800 + m_window->menuBar()->height());
         Settle();
-        QCOMPARE(Child<QWidget>(*m_form, "TbMensajes").geometry(), ui::ToPixels({100, 3400, 2600, 400}, 2));
+        QCOMPARE(Child<QWidget>(*m_window, "TbMensajes").geometry(), ui::ToPixels({100, 3400, 2600, 400}, 2));
     }
 
     void opens_with_the_focus_on_the_first_control()
@@ -96,7 +102,7 @@ private slots:
         Open();
         Ear ear;
         SetReader(true);
-        QVERIFY(ear.TakeActive(*m_form));
+        QVERIFY(ear.TakeActive(*m_window));
         QCOMPARE(ear.Take(), QStringList("FOCUS Text1(1)"));
     }
 
@@ -109,97 +115,93 @@ private slots:
 
     void a_modal_screen_blocks_the_others()
     {
-        sample::SampleForm other;
-        other.setAttribute(Qt::WA_DeleteOnClose, false);
-        other.Open(ui::Modality::Modeless);
-        QVERIFY(WaitActive(other));
+        sample::Sample other;
+        other.Open();
+        QVERIFY(WaitActive(*other.Window()));
         int clicks = 0;
-        other.The<ui::Button>("CbUno").OnClick = [&clicks](int) { ++clicks; };
-        const QWidget& button = Child<QWidget>(other, "CbUno");
-        const QPoint place = button.mapTo(&other, button.rect().center());
-        QTest::mouseClick(other.windowHandle(), Qt::LeftButton, {}, place);
+        other.Form().The<ui::Button>("CbUno").OnClick = [&clicks](int) { ++clicks; };
+        const QWidget& button = Child<QWidget>(*other.Window(), "CbUno");
+        const QPoint place = button.mapTo(other.Window(), button.rect().center());
+        QTest::mouseClick(other.Window()->windowHandle(), Qt::LeftButton, {}, place);
         QCOMPARE(clicks, 1);
-        Open(ui::Modality::Modal);
-        QCOMPARE(QApplication::activeModalWidget(), m_form.data());
-        QTest::mouseClick(other.windowHandle(), Qt::LeftButton, {}, place);
-        QTest::keyClick(other.windowHandle(), Qt::Key_Return);
+        Open(ui::Modality::Modal, &other.Form());
+        QCOMPARE(QApplication::activeModalWidget(), m_window.data());
+        QTest::mouseClick(other.Window()->windowHandle(), Qt::LeftButton, {}, place);
+        QTest::keyClick(other.Window()->windowHandle(), Qt::Key_Return);
         QCOMPARE(clicks, 1);
     }
 
     void a_modal_screen_belongs_to_the_one_that_it_blocks()
     {
-        sample::SampleForm menu;
-        menu.setAttribute(Qt::WA_DeleteOnClose, false);
-        menu.Open(ui::Modality::Modeless);
-        QVERIFY(WaitActive(menu));
-        QCOMPARE(ui::Form::Front(), &menu);
-        Open(ui::Modality::Modal);
-        QCOMPARE(m_form->windowHandle()->transientParent(), menu.windowHandle());
-        QCOMPARE(m_form->windowHandle()->type(), Qt::Dialog); // or X11 would not be told of it
-        QVERIFY(!m_form->windowFlags().testFlag(Qt::WindowMinimizeButtonHint));
-        QVERIFY(m_form->windowFlags().testFlag(Qt::WindowMaximizeButtonHint));
-        QVERIFY(m_form->windowFlags().testFlag(Qt::WindowCloseButtonHint));
-        QCOMPARE(QAccessible::queryAccessibleInterface(m_form)->role(), QAccessible::Window);
+        sample::Sample menu;
+        menu.Open();
+        QVERIFY(WaitActive(*menu.Window()));
+        QCOMPARE(ui::Form::FrontWindow(), menu.Window());
+        Open(ui::Modality::Modal, &menu.Form());
+        QCOMPARE(m_window->windowHandle()->transientParent(), menu.Window()->windowHandle());
+        QCOMPARE(m_window->windowHandle()->type(), Qt::Dialog); // or X11 would not be told of it
+        QVERIFY(!m_window->windowFlags().testFlag(Qt::WindowMinimizeButtonHint));
+        QVERIFY(m_window->windowFlags().testFlag(Qt::WindowMaximizeButtonHint));
+        QVERIFY(m_window->windowFlags().testFlag(Qt::WindowCloseButtonHint));
+        QCOMPARE(QAccessible::queryAccessibleInterface(m_window)->role(), QAccessible::Window);
         Press(Qt::Key_Escape);
-        QVERIFY(m_form->isVisible());
-        QCOMPARE(ui::Form::Front(), m_form.data());
+        QVERIFY(m_window->isVisible());
+        QCOMPARE(ui::Form::FrontWindow(), m_window.data());
     }
 
     void a_modeless_screen_belongs_to_none()
     {
-        sample::SampleForm menu;
-        menu.setAttribute(Qt::WA_DeleteOnClose, false);
-        menu.Open(ui::Modality::Modeless);
-        QVERIFY(WaitActive(menu));
+        sample::Sample menu;
+        menu.Open();
+        QVERIFY(WaitActive(*menu.Window()));
         Open();
-        QVERIFY(m_form->windowHandle()->transientParent() == nullptr);
-        QCOMPARE(m_form->windowHandle()->type(), Qt::Window);
+        QVERIFY(m_window->windowHandle()->transientParent() == nullptr);
+        QCOMPARE(m_window->windowHandle()->type(), Qt::Window);
     }
 
     void asking_for_a_blocked_screen_brings_the_modal_one()
     {
-        sample::SampleForm menu;
-        menu.setAttribute(Qt::WA_DeleteOnClose, false);
-        menu.Open(ui::Modality::Modeless);
-        QVERIFY(WaitActive(menu));
-        Open(ui::Modality::Modal);
-        m_form->showMinimized();
+        sample::Sample menu;
+        menu.Open();
+        QVERIFY(WaitActive(*menu.Window()));
+        Open(ui::Modality::Modal, &menu.Form());
+        m_window->showMinimized();
         QEvent asked(QEvent::WindowActivate); // a desktop that knows of blocked windows does not send it
-        QCoreApplication::sendEvent(&menu, &asked);
-        QTRY_VERIFY(!m_form->isMinimized());
-        QVERIFY(WaitActive(*m_form));
+        QCoreApplication::sendEvent(menu.Window(), &asked);
+        QTRY_VERIFY(!m_window->isMinimized());
+        QVERIFY(WaitActive(*m_window));
     }
 
     void every_object_bears_its_name()
     {
         for (const char* name : {"Label1", "Text1(0)", "Text1(1)", "TbDesco", "Frame1", "TBFrac", "Line1", "TbMensajes",
                                  "Command2(0)", "Command2(1)"}) {
-            Child<QWidget>(*m_form, name);
+            Child<QWidget>(*m_window, name);
         }
         for (const char* name : {"MnuOpc", "MnuOpcDen", "MnuOpcDenLis(0)", "MnuOpcDenLis(1)", "MnuOpcLee", "MnuAce"}) {
-            Child<QAction>(*m_form, name);
+            Child<QAction>(*m_window, name);
         }
     }
 
     void accessible_names_are_those_given_and_not_the_frames()
     {
         const auto name = [this](const char* control) {
-            return QAccessible::queryAccessibleInterface(&Child<QWidget>(*m_form, control))->text(QAccessible::Name);
+            return QAccessible::queryAccessibleInterface(&Child<QWidget>(*m_window, control))->text(QAccessible::Name);
         };
         QCOMPARE(name("TBFrac"), "Numerador rojo");
         QCOMPARE(name("Text1(0)"), "Primera caja");
         QCOMPARE(name("Command2(0)"), "Continuar");
         QCOMPARE(name("Command2(1)"), "7 - 9");
-        QCOMPARE(QAccessible::queryAccessibleInterface(&Child<QWidget>(*m_form, "Line1"))->role(),
+        QCOMPARE(QAccessible::queryAccessibleInterface(&Child<QWidget>(*m_window, "Line1"))->role(),
                  QAccessible::Separator);
     }
 
     void controls_of_a_frame_lie_inside_it()
     {
         Open();
-        QCOMPARE(Child<QWidget>(*m_form, "TBFrac").parentWidget(), &Child<QWidget>(*m_form, "Frame1"));
-        QCOMPARE(Child<QWidget>(*m_form, "TBFrac").pos(), QPoint(13, 27));
-        const QImage frame = Child<QWidget>(*m_form, "Frame1").grab().toImage();
+        QCOMPARE(Child<QWidget>(*m_window, "TBFrac").parentWidget(), &Child<QWidget>(*m_window, "Frame1"));
+        QCOMPARE(Child<QWidget>(*m_window, "TBFrac").pos(), QPoint(13, 27));
+        const QImage frame = Child<QWidget>(*m_window, "Frame1").grab().toImage();
         QCOMPARE(frame.pixelColor(frame.width() - 10, frame.height() - 10), QColor(255, 0, 0));
     }
 
@@ -214,7 +216,7 @@ private slots:
     {
         Open();
         const auto name = [this] {
-            return QAccessible::queryAccessibleInterface(&Child<QLabel>(*m_form, "Label1"))->text(QAccessible::Name);
+            return QAccessible::queryAccessibleInterface(&Child<QLabel>(*m_window, "Label1"))->text(QAccessible::Name);
         };
         QCOMPARE(name(), "Partes:");
         m_form->The<ui::Label>("Label1").Caption("Par&tes:");
@@ -236,11 +238,11 @@ private slots:
     void the_type_of_a_label_shrinks_until_its_text_fits()
     {
         Open();
-        const int before = Child<QLabel>(*m_form, "LbCuenta").font().pixelSize();
+        const int before = Child<QLabel>(*m_window, "LbCuenta").font().pixelSize();
         m_form->The<ui::Label>("LbCuenta").Caption("Rojas: 12; Total: 25.");
-        const auto& label = Child<QLabel>(*m_form, "LbCuenta");
+        const auto& label = Child<QLabel>(*m_window, "LbCuenta");
         for (const int wider : {0, 1}) {
-            m_form->resize(m_form->width() + wider, m_form->height());
+            m_window->resize(m_window->width() + wider, m_window->height());
             Settle();
             QVERIFY(label.font().pixelSize() < before);
             const QRect drawn = QFontMetrics(label.font()).boundingRect(label.rect(), Qt::TextWordWrap, label.text());
@@ -307,7 +309,7 @@ private slots:
         };
         Open();
         for (const char* name : {"Text1(0)", "Text1(1)", "TbDesco", "TBFrac", "Command2(0)"}) {
-            Child<QWidget>(*m_form, name).setFocus();
+            Child<QWidget>(*m_window, name).setFocus();
             seen.clear();
             Press(Qt::Key_F2);
             Press(Qt::Key_L, Qt::ShiftModifier);
@@ -335,8 +337,8 @@ private slots:
             Box("TbMensajes").Text("tres cuartos");
             Box("Text3").Text("Hola");
         };
-        m_form->Open(ui::Modality::Modeless);
-        QVERIFY(WaitActive(*m_form));
+        m_sample->Open();
+        QVERIFY(WaitActive(*m_window));
         QCOMPARE(ear.Take(), QStringList({"FOCUS Text1(1)", "SAY tres cuartos Hola"}));
     }
 
@@ -363,10 +365,10 @@ private slots:
         m_form->The<ui::Button>("CbUno").OnClick = [this](int) { Box("Text3").Text("Resultado correcto"); };
         m_form->The<ui::Button>("CbDos").OnClick = [this](int) { Box("Text3").Text(""); };
         for (int i = 0; i < 2; ++i) {
-            QTest::mouseClick(&Child<QWidget>(*m_form, "CbUno"), Qt::LeftButton);
+            QTest::mouseClick(&Child<QWidget>(*m_window, "CbUno"), Qt::LeftButton);
             QCOMPARE(ear.TakeSaid(), QStringList("Resultado correcto"));
         }
-        QTest::mouseClick(&Child<QWidget>(*m_form, "CbDos"), Qt::LeftButton);
+        QTest::mouseClick(&Child<QWidget>(*m_window, "CbDos"), Qt::LeftButton);
         QCOMPARE(ear.TakeSaid(), QStringList());
         QCOMPARE(Box("Text3").Text(), "");
     }
@@ -376,7 +378,7 @@ private slots:
         Open();
         Ear ear;
         m_form->The<ui::Button>("CbUno").OnClick = [this](int) { Box("TBFrac").Text("9"); };
-        QTest::mouseClick(&Child<QWidget>(*m_form, "CbUno"), Qt::LeftButton);
+        QTest::mouseClick(&Child<QWidget>(*m_window, "CbUno"), Qt::LeftButton);
         QCOMPARE(ear.TakeSaid(), QStringList());
     }
 
@@ -400,10 +402,10 @@ private slots:
     {
         Ear ear;
         m_form->exercise = "dos tercios";
-        m_form->Open(ui::Modality::Modeless);
-        QVERIFY(WaitActive(*m_form));
+        m_sample->Open();
+        QVERIFY(WaitActive(*m_window));
         QCOMPARE(ear.Take(), QStringList({"FOCUS Text1(1)", "SAY dos tercios"}));
-        Child<QWidget>(*m_form, "CbUno").setFocus();
+        Child<QWidget>(*m_window, "CbUno").setFocus();
         ear.Take();
         Press(Qt::Key_F3);
         QCOMPARE(ear.Take(), QStringList("SAY dos tercios"));
@@ -417,7 +419,7 @@ private slots:
         Open();
         Ear ear;
         for (const char* name : {"Text1(0)", "Text1(1)", "TbDesco", "TBFrac", "Command2(0)", "tbResultados"}) {
-            Child<QWidget>(*m_form, name).setFocus();
+            Child<QWidget>(*m_window, name).setFocus();
             ear.Take();
             Press(Qt::Key_F4);
             QCOMPARE(ear.Take(), QStringList("SAY Ejercicios:  0"));
@@ -440,7 +442,7 @@ private slots:
         const QStringList once("solo lectura");
         Box("Text1").SetFocus(); // the first of the two boxes, which takes typing
         QCOMPARE(typed("7a"), QStringList());
-        Child<QWidget>(*m_form, "Text1(1)").setFocus();
+        Child<QWidget>(*m_window, "Text1(1)").setFocus();
         QCOMPARE(typed("7"), once);
         QCOMPARE(typed("a B"), QStringList());
         Press(Qt::Key_Shift);
@@ -455,10 +457,10 @@ private slots:
             QTest::sendKeyEvent(QTest::Click, QApplication::focusWidget(), beside, QString(), Qt::NoModifier);
             QCOMPARE(typed("7"), QStringList());
         }
-        Child<QWidget>(*m_form, "TbMensajes").setFocus(); // another locked one, and no key between
+        Child<QWidget>(*m_window, "TbMensajes").setFocus(); // another locked one, and no key between
         ear.Take();
         QCOMPARE(typed("7"), once);
-        Child<QWidget>(*m_form, "Text1(1)").setFocus();
+        Child<QWidget>(*m_window, "Text1(1)").setFocus();
         ear.Take();
         for (const auto& [key, held] : {std::pair(Qt::Key_Left, Qt::NoModifier),
                                         {Qt::Key_Delete, Qt::NoModifier},
@@ -477,7 +479,7 @@ private slots:
     {
         Open();
         Ear ear;
-        Child<QWidget>(*m_form, "Text1(1)").setFocus();
+        Child<QWidget>(*m_window, "Text1(1)").setFocus();
         m_form->OnKeyDown = [](int code, int) { return code == 'L' ? KeyResult::Share : KeyResult::Pass; };
         m_form->All<ui::TextBox>("Text1")[1].OnKeyPress = [](int, int KeyAscii) {
             return KeyAscii == '7' ? KeyResult::Share : KeyAscii == '8' ? KeyResult::Swallow : KeyResult::Pass;
@@ -494,19 +496,18 @@ private slots:
     void a_message_to_a_window_in_the_background_waits_for_it_and_keeps_no_other_silent()
     {
         Open();
-        sample::SampleForm other;
-        other.setAttribute(Qt::WA_DeleteOnClose, false);
-        other.Open(ui::Modality::Modeless);
-        QVERIFY(WaitActive(other));
+        sample::Sample other;
+        other.Open();
+        QVERIFY(WaitActive(*other.Window()));
         Ear ear;
-        other.The<ui::Button>("CbUno").OnClick = [this, &other](int) {
+        other.Form().The<ui::Button>("CbUno").OnClick = [this, &other](int) {
             Box("Text3").Text("detrás");
-            other.The<ui::TextBox>("Text3").Text("delante");
+            other.Form().The<ui::TextBox>("Text3").Text("delante");
         };
-        QTest::mouseClick(&Child<QWidget>(other, "CbUno"), Qt::LeftButton);
+        QTest::mouseClick(&Child<QWidget>(*other.Window(), "CbUno"), Qt::LeftButton);
         QCOMPARE(ear.TakeSaid(), QStringList("delante"));
         m_form->BringForward();
-        QVERIFY(WaitActive(*m_form));
+        QVERIFY(WaitActive(*m_window));
         QCOMPARE(ear.TakeSaid(), QStringList("detrás"));
     }
 
@@ -514,8 +515,8 @@ private slots:
     {
         Ear ear;
         {
-            sample::SampleForm lost;
-            lost.The<ui::TextBox>("Text3").Text("nadie lo oye");
+            const sample::Sample lost;
+            lost.Form().The<ui::TextBox>("Text3").Text("nadie lo oye");
         }
         Open();
         QCOMPARE(ear.TakeSaid(), QStringList());
@@ -523,19 +524,19 @@ private slots:
 
     void menus_are_arrays_of_which_one_entry_is_checked()
     {
-        auto items = m_form->All<ui::MenuItem>("MnuOpcDenLis");
         int clicked = -1;
-        for (ui::MenuItem& item : items) {
+        for (ui::MenuItem& item : m_form->All<ui::MenuItem>("MnuOpcDenLis")) {
             item.OnClick = [&clicked](int Index) { clicked = Index; };
         }
-        QVERIFY(items[0].Checked() && !items[1].Checked());
-        items[1].Check();
-        QVERIFY(!items[0].Checked() && items[1].Checked());
-        QCOMPARE(clicked, -1);
-        Child<QAction>(*m_form, "MnuOpcDenLis(0)").trigger();
+        const auto isChecked = [this](const char* name) { return Child<QAction>(*m_window, name).isChecked(); };
+        QVERIFY(isChecked("MnuOpcDenLis(0)") && !isChecked("MnuOpcDenLis(1)"));
+        Child<QAction>(*m_window, "MnuOpcDenLis(1)").trigger();
+        QCOMPARE(clicked, 1);
+        QVERIFY(!isChecked("MnuOpcDenLis(0)") && isChecked("MnuOpcDenLis(1)"));
+        Child<QAction>(*m_window, "MnuOpcDenLis(0)").trigger();
         QCOMPARE(clicked, 0);
-        QVERIFY(items[0].Checked() && !items[1].Checked());
-        QVERIFY(m_form->All<ui::MenuItem>("MnuOpcTipLis")[0].Checked());
+        QVERIFY(isChecked("MnuOpcDenLis(0)") && !isChecked("MnuOpcDenLis(1)"));
+        QVERIFY(isChecked("MnuOpcTipLis(0)"));
     }
 
     void a_menu_entry_has_its_function_key()
@@ -562,15 +563,15 @@ private slots:
         const auto overflow = [](int) { std::ignore = numeros::Entero16(32767) + 1; };
         QTest::addRow("button") << std::function([overflow](sample::SampleForm& form) {
             form.The<ui::Button>("CbUno").OnClick = overflow;
-            Child<QPushButton>(form, "CbUno").click();
+            Child<QPushButton>(form.Window(), "CbUno").click();
         });
         QTest::addRow("menu") << std::function([overflow](sample::SampleForm& form) {
             form.The<ui::MenuItem>("MnuOpcLee").OnClick = overflow;
-            Child<QAction>(form, "MnuOpcLee").trigger();
+            Child<QAction>(form.Window(), "MnuOpcLee").trigger();
         });
         QTest::addRow("text") << std::function([overflow](sample::SampleForm& form) {
             form.All<ui::TextBox>("Text1")[0].OnChange = overflow;
-            Child<QLineEdit>(form, "Text1(0)").insert("7");
+            Child<QLineEdit>(form.Window(), "Text1(0)").insert("7");
         });
         QTest::addRow("key") << std::function([overflow](sample::SampleForm& form) {
             form.All<ui::TextBox>("Text1")[0].OnKeyPress = [overflow](int Index, int) {
@@ -578,17 +579,17 @@ private slots:
                 return ui::KeyResult::Pass;
             };
             QKeyEvent key(QEvent::KeyPress, Qt::Key_7, Qt::NoModifier, "7");
-            QObject& filter = form;
-            QVERIFY(filter.eventFilter(&Child<QLineEdit>(form, "Text1(0)"), &key));
+            QObject& filter = form.Window();
+            QVERIFY(filter.eventFilter(&Child<QLineEdit>(form.Window(), "Text1(0)"), &key));
         });
     }
     void a_number_out_of_range_ends_the_program_where_qt_calls_the_screen()
     {
         QFETCH(std::function<void(sample::SampleForm&)>, act);
         Open();
-        Child<QWidget>(*m_form, "Text1(0)").setFocus();
+        Child<QWidget>(*m_window, "Text1(0)").setFocus();
         QString told;
-        QTimer::singleShot(0, m_form, [&] {
+        QTimer::singleShot(0, m_window, [&] {
             WithDialog([&] { act(*m_form); },
                        [&told](QWidget& box) {
                            told = dynamic_cast<QMessageBox&>(box).text();
@@ -601,20 +602,19 @@ private slots:
 
     void after_a_window_closed_with_its_menu_open_another_has_the_focus()
     {
-        sample::SampleForm other;
-        other.setAttribute(Qt::WA_DeleteOnClose, false);
-        other.Open(ui::Modality::Modeless);
-        QVERIFY(WaitActive(other));
-        Open(ui::Modality::Modal);
+        sample::Sample other;
+        other.Open();
+        QVERIFY(WaitActive(*other.Window()));
+        Open(ui::Modality::Modal, &other.Form());
         Press(Qt::Key_O, Qt::AltModifier);
         QTRY_VERIFY(QApplication::activePopupWidget() != nullptr);
         QEventLoop loop; // as the program runs; the loops of QTest come to deletions later
-        QTimer::singleShot(0, m_form, [this] { m_form->close(); });
-        connect(m_form, &QObject::destroyed, &loop, &QEventLoop::quit);
+        QTimer::singleShot(0, m_window, [this] { m_window->close(); });
+        connect(m_window, &QObject::destroyed, &loop, &QEventLoop::quit);
         loop.exec();
-        other.activateWindow(); // without a desktop nobody else does
-        QVERIFY(WaitActive(other));
-        QTRY_VERIFY(other.isAncestorOf(QApplication::focusWidget()));
+        other.Window()->activateWindow(); // without a desktop nobody else does
+        QVERIFY(WaitActive(*other.Window()));
+        QTRY_VERIFY(other.Window()->isAncestorOf(QApplication::focusWidget()));
     }
 };
 

@@ -89,7 +89,9 @@ class tst_KeyOrder : public QObject
     Q_OBJECT
 
 private:
-    std::unique_ptr<sample::SampleForm> m_form;
+    std::unique_ptr<sample::Sample> m_sample;
+    sample::SampleForm* m_form = nullptr;
+    QMainWindow* m_window = nullptr;
     std::unique_ptr<AskedReader> m_reader;
     QStringList m_done; // what the keys have done, in order
 
@@ -100,15 +102,16 @@ private:
                 window.windowHandle(), finger.type, finger.key, finger.modifiers, finger.text);
         }
     }
-    void Move(const QList<Finger>& fingers) const { Move(*m_form, fingers); }
+    void Move(const QList<Finger>& fingers) const { Move(*m_window, fingers); }
 
 private slots:
     void init()
     {
-        m_form = std::make_unique<sample::SampleForm>();
-        m_form->setAttribute(Qt::WA_DeleteOnClose, false);
-        m_form->Open(ui::Modality::Modeless);
-        QVERIFY(WaitActive(*m_form));
+        m_sample = std::make_unique<sample::Sample>();
+        m_form = &m_sample->Form();
+        m_window = m_sample->Window();
+        m_sample->Open();
+        QVERIFY(WaitActive(*m_window));
         ui::TextBox& box = m_form->All<ui::TextBox>("Text1")[0];
         box.Text("");
         box.SetFocus();
@@ -125,7 +128,7 @@ private slots:
     void cleanup()
     {
         m_reader.reset();
-        m_form.reset();
+        m_sample.reset();
         Settle();
     }
 
@@ -216,9 +219,9 @@ private slots:
         };
         alt(behindADigit ? Digit('5') : QList<Finger>());
         QCOMPARE(m_done, behindADigit ? QStringList("5") : QStringList());
-        QCOMPARE(m_form->menuBar()->activeAction(), &Child<QAction>(*m_form, "MnuOpc"));
+        QCOMPARE(m_window->menuBar()->activeAction(), &Child<QAction>(*m_window, "MnuOpc"));
         alt({});
-        QVERIFY(m_form->menuBar()->activeAction() == nullptr);
+        QVERIFY(m_window->menuBar()->activeAction() == nullptr);
         QCOMPARE(Focus(), "Text1(0)");
     }
 
@@ -257,7 +260,7 @@ private slots:
             Move({fingers[i]});
         }
         m_reader->AnswerAll();
-        QVERIFY(m_form->menuBar()->activeAction() == nullptr);
+        QVERIFY(m_window->menuBar()->activeAction() == nullptr);
         QCOMPARE(Focus(), letter == Qt::Key_C ? "Command2(0)" : "Text1(0)");
         QCOMPARE(m_done, (behindADigit ? QStringList("5") : QStringList()) +
                              (letter == Qt::Key_C ? QStringList("Continuar") : QStringList()));
@@ -298,28 +301,26 @@ private slots:
     void what_waits_when_its_window_is_blocked_does_nothing()
     {
         Move(Digit('5') + QList<Finger>{{down, Qt::Key_Alt}, {up, Qt::Key_Alt, Qt::AltModifier}});
-        sample::SampleForm modal;
-        modal.setAttribute(Qt::WA_DeleteOnClose, false);
+        sample::Sample modal;
         modal.Open(ui::Modality::Modal);
-        QVERIFY(WaitActive(modal));
+        QVERIFY(WaitActive(*modal.Window()));
         m_reader->AnswerAll();
         QCOMPARE(m_done, QStringList());
-        QVERIFY(m_form->menuBar()->activeAction() == nullptr);
-        modal.close();
+        QVERIFY(m_window->menuBar()->activeAction() == nullptr);
+        modal.Window()->close();
     }
 
     void a_key_pressed_into_a_blocked_window_holds_up_none()
     {
         m_reader.reset();
-        sample::SampleForm modal;
-        modal.setAttribute(Qt::WA_DeleteOnClose, false);
+        sample::Sample modal;
         modal.Open(ui::Modality::Modal);
-        QVERIFY(WaitActive(modal));
+        QVERIFY(WaitActive(*modal.Window()));
         int clicks = 0;
-        modal.All<ui::Button>("Command2")[0].OnClick = [&clicks](int) { ++clicks; };
+        modal.Form().All<ui::Button>("Command2")[0].OnClick = [&clicks](int) { ++clicks; };
         Move(Digit('5'));
         QCOMPARE(m_done, QStringList());
-        Move(modal, WithAlt(Qt::Key_C));
+        Move(*modal.Window(), WithAlt(Qt::Key_C));
         QCOMPARE(clicks, 1);
     }
 };

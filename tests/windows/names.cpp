@@ -3,18 +3,21 @@
 #include "Application.h"
 #include "Windows.h"
 
+#include <QApplication>
 #include <QFile>
+#include <QMainWindow>
 
 int main(int argc, char** argv)
 {
-    ui::Application application(argc, argv);
+    const ui::Application application(argc, argv);
     QFile file(QApplication::arguments().value(1));
     if (!file.open(QIODevice::WriteOnly)) {
         return EXIT_FAILURE;
     }
-    for (const support::Window& window : support::windows) {
-        ui::Form* form = window.make();
-        form->Open(ui::Modality::Modeless);
+    for (const support::Window& window : support::Windows()) {
+        auto screen = window.make();
+        QMainWindow* form = &screen->Window();
+        ui::Form::Open(std::move(screen), ui::Modality::Modeless);
         QStringList line{form->windowTitle()};
         for (const QWidget* widget : form->findChildren<QWidget*>()) {
             if (widget->focusPolicy() != Qt::NoFocus && widget->isVisible() && !widget->objectName().isEmpty()) {

@@ -1,0 +1,56 @@
+// The exercise screens, in the order of the menu: a screen is listed here and nowhere else.
+#pragma once
+
+#include "Form2.h"
+#include "FormCantidad.h"
+#include "FormCociente.h"
+#include "FormConversion.h"
+#include "FormDiferencia.h"
+#include "FormFactores.h"
+#include "FormFichas.h"
+#include "FormOrdenar.h"
+#include "FormProducto.h"
+#include "FormRepresentacion.h"
+#include "FormSeries.h"
+
+#include <array>
+#include <memory>
+#include <string_view>
+
+namespace app {
+
+struct Pantalla
+{
+    std::string_view nombre;  // of the window
+    std::string_view caption; // of its button
+    ui::Modality modality;
+    std::string_view primero; // where the focus is when it opens
+    std::unique_ptr<ui::Form> (*crear)();
+};
+
+template <class Screen>
+std::unique_ptr<ui::Form> Crear()
+{
+    return std::make_unique<Screen>();
+}
+
+inline constexpr std::array<Pantalla, 11> pantallas = [] {
+    using namespace ejercicios;
+    using namespace operaciones;
+    using enum ui::Modality;
+    return std::array<Pantalla, 11>{{
+        {"FormRepresentacion", "Representación &gráfica", Modal, "Text1", Crear<FormRepresentacion>},
+        {"FormFichas", "&Expresa con fracciones", Modal, "Text1", Crear<FormFichas>},
+        {"FormCantidad", "&Fracción de una cantidad", Modal, "Text1", Crear<FormCantidad>},
+        {"FormFactores", "D&escomposición en factores primos", Modeless, "TbInstruc", Crear<FormFactores>},
+        {"FormOrdenar", "&Ordenar fracciones", Modeless, "Text1", Crear<FormOrdenar>},
+        {"FormConversion", "&Conversión al mismo denominador", Modeless, "TBInstruc", Crear<FormConversion>},
+        {"Form2", "&Suma de fracciones", Modeless, "Text1(0)", Crear<Form2>},
+        {"FormDiferencia", "&Diferencia de fracciones", Modeless, "Text1(0)", Crear<FormDiferencia>},
+        {"FormProducto", "&Producto de fracciones", Modal, "Text1(0)", Crear<FormProducto>},
+        {"FormCociente", "&Cociente de fracciones", Modal, "Text1(0)", Crear<FormCociente>},
+        {"FormSeries", "&Completa la serie", Modeless, "TbInstruc", Crear<FormSeries>},
+    }};
+}();
+
+} // namespace app

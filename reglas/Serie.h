@@ -1,0 +1,44 @@
+// Series of fractions of which the pupil supplies a term: eight terms, made of two runs of numbers.
+#pragma once
+
+#include "Fraccion.h"
+
+#include <array>
+#include <optional>
+
+namespace reglas {
+
+inline constexpr int terminos = 8;
+
+using Numeros = std::array<int, terminos>;
+
+struct Serie
+{
+    Numeros NumeradoresSerie{};
+    Numeros DenominadoresSerie{};
+
+    // Term `i`, from 0.
+    numeros::Fraccion Termino(int i) const
+    {
+        const auto posicion = static_cast<std::size_t>(i);
+        return {NumeradoresSerie.at(posicion), DenominadoresSerie.at(posicion)};
+    }
+};
+
+// A level: 1 to 4, the harder the greater, and A or B, in which every second term is upside down.
+struct Nivel
+{
+    int nivel = 1;
+    bool esB = false;
+};
+
+// How many terms of the series are shown, before the one that is missing.
+int TerminosMostrados(const Nivel& elegido);
+
+// The level that is drawn where the easier ones are wanted too: at the chosen one's own number, A alone for an A.
+Nivel SortearNivel(const Nivel& elegido);
+
+// A new series of that level; none where a number came out negative, which from level 3 on happens.
+std::optional<Serie> SortearSerie(const Nivel& nivel);
+
+} // namespace reglas

@@ -1,0 +1,46 @@
+// The window of a screen, which the screen belongs to once it is open: its size, and its keys.
+#pragma once
+
+#include "Form.h"
+
+#include <QMainWindow>
+
+class QShortcutEvent;
+
+namespace ui {
+
+class Form::FormWindow final : public QMainWindow
+{
+public:
+    explicit FormWindow(Form& screen);
+
+    // Takes the screen over and shows it.
+    void Open(std::shared_ptr<Form> screen, Modality modality, const Form* opener);
+
+    // Shows the controls' key presses, focus changes and the like to the screen before the controls get them.
+    void Watch(Control& control);
+
+protected:
+    bool event(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    double TextScale() const;
+    QSize OpeningSize() const;
+    void BelongTo(const Form* opener);
+    void TakeOpeningSize();
+    void Arrange();
+
+    KeyResult Handle(QObject* watched, QEvent& event);
+    KeyResult HandleKey(Control& control, QEvent& event);
+    void AccessKey(Button& button, const QShortcutEvent& event);
+    KeyResult KeyPressed(Control& control, const QKeyEvent& event);
+    KeyResult Offer(Control& control, const QKeyEvent& event);
+    static void Commit(Control& control, QInputMethodEvent& event);
+
+    Form& m_screen;
+    std::shared_ptr<Form> m_owned;
+    bool m_lockedIsSaid = false; // of the box in focus, since the pupil began to type into it
+};
+
+} // namespace ui

@@ -1,0 +1,92 @@
+// When something is told, and when better not.
+#pragma once
+
+#include <QAccessible>
+#include <QPointer>
+#include <QScopeGuard>
+#include <QString>
+#include <QWidget>
+
+#include <functional>
+
+class QDialog;
+class QMessageBox;
+
+namespace ui {
+
+// What is to be reckoned with of the screen readers of each platform. On Linux their age goes with that of Qt: Orca 43
+// came with Qt 6.4, Orca 48 with 6.8. macOS has not been tried.
+#if defined(Q_OS_WIN)
+inline constexpr bool newNamesAreRead = QT_VERSION >= QT_VERSION_CHECK(6, 11, 0);
+inline constexpr bool boxesCutMessagesOff = true;
+inline constexpr bool keysComeBesideTheProgram = false;
+#elif defined(Q_OS_MACOS)
+inline constexpr bool newNamesAreRead = false;
+inline constexpr bool boxesCutMessagesOff = true;
+inline constexpr bool keysComeBesideTheProgram = false;
+#else
+inline constexpr bool newNamesAreRead = QT_VERSION >= QT_VERSION_CHECK(6, 8, 0); // of the control in focus, by itself
+inline constexpr bool boxesCutMessagesOff = QT_VERSION >= QT_VERSION_CHECK(6, 8, 0); // that were said before they open
+inline constexpr bool keysComeBesideTheProgram = QT_VERSION >= QT_VERSION_CHECK(6, 8, 0); // and not by way of it
+#endif
+
+// Runs `change` on a box that is not in focus without a word to the screen reader. Qt tells of every caret and text;
+// where the focus follows at once, the reader takes that for the arrival in the box and says nothing of it, or reads
+// the new text as if it had been typed.
+template <class Change>
+void Silently(Change change)
+{
+    const auto handler = QAccessible::installUpdateHandler([](QAccessibleEvent*) {});
+    const auto restore = qScopeGuard([handler] { QAccessible::installUpdateHandler(handler); });
+    change();
+}
+
+// Runs `change` on `box`: in focus the reader follows it, elsewhere nobody does.
+template <class Change>
+void Alter(const QWidget& box, Change change)
+{
+    if (box.hasFocus()) {
+        change();
+    } else {
+        Silently(change);
+    }
+}
+
+// Runs `action` when the reader has been told of the focus that is coming to `widget`; not if that is gone by then.
+void OnceFocusIsTold(QWidget& widget, std::function<void()> action);
+
+// Says the new name of a control, where that has the focus and the reader does not read it by itself.
+void SayNewName(QWidget& control, const QString& name);
+
+// Says `more` of a control that has just got its name, and the name too, unless the reader reads that by itself.
+void SayWithName(QWidget& control, const QString& name, const QString& more);
+
+// To be made before an action that may leave the focus in the box where it was, perhaps by way of other controls: then
+// a reader tells nothing, and the pupil would not know whether the action has done anything.
+class FocusTrace
+{
+public:
+    FocusTrace();
+    ~FocusTrace();
+    FocusTrace(const FocusTrace&) = delete;
+    FocusTrace& operator=(const FocusTrace&) = delete;
+
+    // What has the focus as before, and of which nobody will be told anything; null where the reader tells of it.
+    // Coming back from another window is told.
+    QWidget* Unheard() const;
+
+private:
+    QPointer<QWidget> m_before;
+    bool m_wasElsewhere = false;
+    QMetaObject::Connection m_look;
+};
+
+// Says `said` before the text of `box`, which is about to open before `screen`.
+void SayBeforeBox(QMessageBox& box, QWidget& screen, const QString& said);
+
+// Opens the box and waits for its answer. Where keys come to the reader beside the program, it handles them with the
+// program's help: a box that is there before that is cut off, unread, by the key that has opened it. So the reader gets
+// a moment first, in which keys do nothing.
+int OpenBox(QDialog& box);
+
+} // namespace ui
