@@ -67,7 +67,7 @@ void Form1::Command1_Click(int Index)
         screen->BringForward();
         return;
     }
-    const Pantalla& pantalla = pantallas.at(static_cast<std::size_t>(Index));
+    const Pantalla& pantalla = pantallas.at(Index);
     open = Open(pantalla.crear(), pantalla.modality, this);
 }
 

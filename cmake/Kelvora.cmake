@@ -87,17 +87,24 @@ function(kelvora_desktop_tests label)
     endforeach()
 endfunction()
 
-# A test that a header of another folder cannot be included from this one.
-function(kelvora_forbidden_include name)
-    cmake_parse_arguments(ARG "" "FROM;HEADER" "" ${ARGN})
-    file(GENERATE OUTPUT ${CMAKE_CURRENT_BINARY_DIR}/${name}.cpp CONTENT "#include \"${ARG_HEADER}\"\n")
+# A test that something does not compile with what a library gives, and that the compiler says why.
+function(kelvora_forbidden name)
+    cmake_parse_arguments(ARG "" "FROM;CODE;REASON" "" ${ARGN})
+    file(GENERATE OUTPUT ${CMAKE_CURRENT_BINARY_DIR}/${name}.cpp CONTENT "${ARG_CODE}\n")
     add_library(${name} OBJECT EXCLUDE_FROM_ALL ${CMAKE_CURRENT_BINARY_DIR}/${name}.cpp)
     target_link_libraries(${name} PRIVATE ${ARG_FROM})
     add_test(NAME ${name} COMMAND ${CMAKE_COMMAND} --build ${CMAKE_BINARY_DIR} --target ${name})
     kelvora_inprocess(${name} LC_ALL=C)
-    set_tests_properties(${name} PROPERTIES
-        RESOURCE_LOCK build
-        PASS_REGULAR_EXPRESSION "${ARG_HEADER}: No such file|${ARG_HEADER}' file not found")
+    set_tests_properties(${name} PROPERTIES RESOURCE_LOCK build PASS_REGULAR_EXPRESSION "${ARG_REASON}")
+endfunction()
+
+# The same of a header of another folder.
+function(kelvora_forbidden_include name)
+    cmake_parse_arguments(ARG "" "FROM;HEADER" "" ${ARGN})
+    kelvora_forbidden(${name}
+        FROM ${ARG_FROM}
+        CODE "#include \"${ARG_HEADER}\""
+        REASON "${ARG_HEADER}: No such file|${ARG_HEADER}' file not found")
 endfunction()
 
 # The icon in all sizes, as files of the calling folder's build: SIZE.png.

@@ -15,7 +15,7 @@ Ejercicio::Ejercicio(const ui::FormDesign& design, std::string_view salida) : Fo
 void Ejercicio::Command2_Click(int Index)
 {
     constexpr std::array acciones{&Ejercicio::Continuar, &Ejercicio::Borrar, &Ejercicio::VerSolucion};
-    (this->*acciones.at(static_cast<std::size_t>(Index)))();
+    (this->*acciones.at(Index))();
 }
 
 void Ejercicio::MnuOpcSal_Click()

@@ -4,6 +4,10 @@
 #include "Design.h"
 #include "Marcador.h"
 
+#include <algorithm>
+#include <array>
+#include <type_traits>
+
 namespace comun {
 
 constexpr ui::ControlDesign Hecho(const ui::Place& place, int tab)
@@ -37,11 +41,64 @@ constexpr ui::ControlDesign LineaMarcador(const ui::Place& place, int tab, doubl
             .points = points};
 }
 
-// The same row in another type.
-constexpr ui::ControlDesign EnTipo(ui::ControlDesign fila, std::string_view font)
+// The instruction, of several lines, with which a screen begins.
+constexpr ui::ControlDesign Instrucciones(std::string_view name, std::string_view text, std::string_view teclas,
+                                          const ui::Place& place)
+{
+    return {.kind = ui::Kind::TextArea,
+            .name = name,
+            .text = text,
+            .accessibleName = "Instrucciones",
+            .keys = teclas,
+            .place = place,
+            .tab = 0};
+}
+
+// The line of verdicts, which are heard.
+constexpr ui::ControlDesign Mensajes(std::string_view name, const ui::Place& place, int tab)
+{
+    return {.name = name,
+            .accessibleName = "Mensajes",
+            .place = place,
+            .tab = tab,
+            .speaking = ui::Speaking::Spoken,
+            .coloring = ui::Coloring::Selection};
+}
+
+// The same row in another type, centred, open to typing, or inside a frame or picture box.
+constexpr ui::ControlDesign EnTipo(ui::ControlDesign fila, std::string_view font, double points = 12)
 {
     fila.font = font;
+    fila.points = points;
     return fila;
+}
+constexpr ui::ControlDesign Centrada(ui::ControlDesign fila)
+{
+    fila.alignment = ui::Alignment::Center;
+    return fila;
+}
+constexpr ui::ControlDesign Editable(ui::ControlDesign fila)
+{
+    fila.typing = ui::Typing::Editable;
+    return fila;
+}
+constexpr ui::ControlDesign Dentro(std::string_view marco, ui::ControlDesign fila)
+{
+    fila.inside = marco;
+    return fila;
+}
+
+// `filas`, and behind them what `filasDe` makes of 0 to `cuantas` - 1: arrays of rows.
+template <int cuantas, std::size_t n, class FilasDe>
+consteval auto ConFilas(const ui::ControlDesign (&filas)[n], FilasDe filasDe)
+{
+    constexpr std::size_t deCada = std::tuple_size_v<std::invoke_result_t<FilasDe, int>>;
+    std::array<ui::ControlDesign, n + cuantas * deCada> todas;
+    auto next = std::ranges::copy(filas, todas.begin()).out;
+    for (int i = 0; i < cuantas; ++i) {
+        next = std::ranges::copy(filasDe(i), next).out;
+    }
+    return todas;
 }
 
 } // namespace comun

@@ -38,7 +38,7 @@ private:
     numeros::Entero16 Ejercicios;
     numeros::Entero16 Errores;
     bool puntuable = true; // a right answer still counts
-    numeros::Entero16 OpcionDenominador;
+    int OpcionDenominador = 0;
 };
 
 } // namespace ejercicios

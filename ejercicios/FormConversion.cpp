@@ -2,9 +2,8 @@
 
 #include "Azar.h"
 #include "Clock.h"
+#include "Escribir.h"
 #include "Filas.h"
-
-#include <algorithm>
 
 namespace ejercicios {
 
@@ -36,13 +35,10 @@ constexpr ui::ControlDesign Caja(std::string_view name, int index, std::string_v
 }
 
 constexpr ui::ControlDesign controles[]{
-    {.kind = TextArea,
-     .name = "TBInstruc",
-     .text = "Convierte estas fracciones al mismo denominador.\r\n"
-             "Escribe primero los cálculos intermedios. \r\n",
-     .accessibleName = "Instrucciones",
-     .place = {250, 200, 8100, 900},
-     .tab = 0},
+    comun::Instrucciones("TBInstruc",
+                         "Convierte estas fracciones al mismo denominador.\r\n"
+                         "Escribe primero los cálculos intermedios. \r\n",
+                         "", {250, 200, 8100, 900}),
     {.kind = Frame, .name = "Frame1", .text = "Iniciales", .place = {250, 1300, 2600, 2100}},
     Caja("TBIni", 0, "Numerador de la primera fracción inicial", "Frame1", 1),
     Raya(0, "Frame1"),
@@ -80,14 +76,6 @@ constexpr ui::ControlDesign controles[]{
      .tab = 18},
 };
 
-template <class Value>
-void Escribir(const ui::ControlArray<ui::TextBox>& cajas, const std::array<Value, 4>& valores)
-{
-    for (ui::TextBox& caja : cajas) {
-        caja.Text(valores.at(static_cast<std::size_t>(caja.Index())));
-    }
-}
-
 } // namespace
 
 FormConversion::FormConversion()
@@ -109,8 +97,7 @@ void FormConversion::Form_Load()
 // The same verdict again is the same text, and is heard all the same.
 void FormConversion::Command1_Click()
 {
-    const bool correcto = std::ranges::equal(TBFin, m_conversion.Final(), {}, &ui::TextBox::Number,
-                                             [](numeros::Entero16 numero) { return numero.Valor(); });
+    const bool correcto = comun::Aciertos(TBFin, m_conversion.Final()) == TBFin.Count();
     TBMensajes.Text(correcto ? "Resultado correcto" : "Resultado incorrecto");
     Ejercicios += 1;
     if (correcto) {
@@ -123,7 +110,7 @@ void FormConversion::Command1_Click()
 void FormConversion::NuevaConversion()
 {
     m_conversion = reglas::Conversion::Sortear();
-    Escribir(TBIni, m_conversion.Inicial());
+    comun::EscribirTodas(TBIni, m_conversion.Inicial());
     Borrar();
 }
 
@@ -135,14 +122,14 @@ void FormConversion::Continuar()
 void FormConversion::Borrar()
 {
     constexpr std::array<std::string_view, 4> nada{};
-    Escribir(TBMedi, nada);
-    Escribir(TBFin, nada);
+    comun::EscribirTodas(TBMedi, nada);
+    comun::EscribirTodas(TBFin, nada);
 }
 
 void FormConversion::VerSolucion()
 {
-    Escribir(TBMedi, m_conversion.Intermedia());
-    Escribir(TBFin, m_conversion.Final());
+    comun::EscribirTodas(TBMedi, m_conversion.Intermedia());
+    comun::EscribirTodas(TBFin, m_conversion.Final());
 }
 
 } // namespace ejercicios

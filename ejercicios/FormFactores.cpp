@@ -20,7 +20,6 @@ using numeros::Entero16;
 using reglas::Escalera;
 using ui::Checking;
 using ui::KeyResult;
-using ui::Typing;
 
 constexpr ui::ControlDesign controles[]{
     {.name = "TbInstruc",
@@ -34,14 +33,14 @@ constexpr ui::ControlDesign controles[]{
      .accessibleName = "Valor",
      .place = {933, 1300, 2125, 500},
      .tab = 1,
-     .typing = Typing::Editable,
+     .typing = ui::Typing::Editable,
      .font = "Courier New"},
     {.kind = TextArea,
      .name = "TbDesco",
      .accessibleName = "Escalera",
      .place = {933, 2100, 2125, 4000},
      .tab = 2,
-     .typing = Typing::KeysOnly,
+     .typing = ui::Typing::KeysOnly,
      .font = "Courier New",
      .points = 11}, // so that fifteen rows go in
     {.kind = Label,
@@ -56,14 +55,7 @@ constexpr ui::ControlDesign controles[]{
      .tab = 4,
      .font = "Courier New"},
     comun::Hecho({4750, 1100, 1500, 400}, 5),
-    {.name = "Text1",
-     .accessibleName = "Mensajes",
-     .place = {4000, 1900, 3000, 500},
-     .tab = 6,
-     .typing = Typing::Editable,
-     .speaking = ui::Speaking::Spoken,
-     .coloring = ui::Coloring::Selection,
-     .font = "Courier New"},
+    comun::Editable(comun::EnTipo(comun::Mensajes("Text1", {4000, 1900, 3000, 500}, 6), "Courier New")),
     comun::BotonContinuar({4750, 2700, 1300, 500}, 7),
     comun::BotonBorrar({4000, 3500, 1300, 500}, 8),
     comun::BotonVerSolucion({5500, 3500, 1500, 500}, 9),
@@ -106,7 +98,7 @@ void FormFactores::Form_Load()
 {
     NuevaEscalera();
     numeros::Sembrar(ui::TimerSeed());
-    SortearValor(100);
+    TbValor.Text(numeros::Sortear(100, 1));
     LeerValor();
 }
 
@@ -119,17 +111,20 @@ void FormFactores::Command1_Click()
 {
     LeerValor();
     LeerEscalera(false);
-    if (const auto objecion = reglas::Objecion(Factores, Valor)) {
-        Incorrecto(*objecion);
-        return;
+    const auto objecion = reglas::Objecion(Factores, Valor);
+    comun::EscribirOtraVezDelante(Text1, objecion ? "Resultado incorrecto" : "Resultado correcto");
+    if (objecion) {
+        ui::MsgBox(*objecion);
     }
-    comun::EscribirOtraVezDelante(Text1, "Resultado correcto");
     if (puntuable) {
-        puntuable = false;
-        Ejercicios += 1;
+        Ejercicios += 1; // a wrong answer again and again, until the exercise is solved or its solution seen
+        Errores += objecion ? 1 : 0;
+        puntuable = objecion.has_value();
     }
-    MostrarResultados();
-    Command2[0].SetFocus();
+    tbResultados.Text(lenguaje::Marcador(Ejercicios.Valor(), Errores.Valor()));
+    if (!objecion) {
+        Command2[0].SetFocus();
+    }
 }
 
 void FormFactores::Command2_Click(int Index)
@@ -143,27 +138,9 @@ KeyResult FormFactores::TbDesco_KeyDown(int KeyCode, int /*Shift*/)
     return KeyCode == ui::KeyCode::Delete ? Editar(&Escalera::Suprimir) : KeyResult::Pass;
 }
 
-// Control with C copies and with A selects all. Any other control character would change the text by another way than
-// the keys that the ladder knows.
 KeyResult FormFactores::TbDesco_KeyPress(int KeyAscii)
 {
-    constexpr int controlA = 1;
-    constexpr int controlC = 3;
-    switch (KeyAscii) {
-    case ui::KeyAscii::Backspace:
-        return Editar(&Escalera::Retroceso);
-    case ui::KeyAscii::Escape:
-    case controlA:
-    case controlC:
-        return KeyResult::Pass;
-    default:
-        break;
-    }
-    if (KeyAscii < ' ' && KeyAscii != ui::KeyAscii::Enter) {
-        TbDesco.Refuse();
-        return KeyResult::Swallow;
-    }
-    return Editar([KeyAscii](Escalera& escalera) { return escalera.Escribir(static_cast<char16_t>(KeyAscii)); });
+    return Editar([KeyAscii](Escalera& escalera) { return escalera.Pulsar(KeyAscii); });
 }
 
 void FormFactores::TbDesco_Validate()
@@ -195,13 +172,12 @@ void FormFactores::MnuOpcValLis_Click(int Index)
 void FormFactores::MnuOpcInt_Click()
 {
     const double numero = std::abs(numeros::Val(ui::InputBox("Introduzca valor a descomponer: ", "Introducir valor")));
-    if (numero == 0 || !(numero <= 1000)) {
-        return;
+    if (numero != 0 && numero <= 1000) {
+        Valor = Entero16::Redondeado(numero);
+        TbValor.Text(Valor);
+        NuevaEscalera();
+        TellExercise();
     }
-    Valor = Entero16::Redondeado(numero);
-    TbValor.Text(Valor);
-    NuevaEscalera();
-    TellExercise();
 }
 
 void FormFactores::LeerEscalera(bool soloLeer)
@@ -223,11 +199,6 @@ void FormFactores::NuevaEscalera()
     TbDesco.Edit(escalera.Texto(), escalera.Cursor());
 }
 
-void FormFactores::SortearValor(int limite)
-{
-    TbValor.Text(numeros::Sortear(limite, 1));
-}
-
 // A value that does not fit is put back to the last one that did.
 void FormFactores::LeerValor()
 {
@@ -242,7 +213,7 @@ void FormFactores::LeerValor()
 void FormFactores::Continuar()
 {
     constexpr std::array limites{10, 20, 100, 1000};
-    SortearValor(limites.at(static_cast<std::size_t>(OpcionValores.Valor())));
+    TbValor.Text(numeros::Sortear(limites.at(OpcionValores), 1));
     TbValor.SelectAll();
     Borrar();
     puntuable = true;
@@ -264,32 +235,16 @@ void FormFactores::VerSolucion()
     puntuable = false;
 }
 
-// Every wrong answer counts again until the exercise is solved or its solution seen.
-void FormFactores::Incorrecto(std::string_view motivo)
-{
-    comun::EscribirOtraVezDelante(Text1, "Resultado incorrecto");
-    ui::MsgBox(motivo);
-    if (puntuable) {
-        Ejercicios += 1;
-        Errores += 1;
-    }
-    MostrarResultados();
-}
-
-void FormFactores::MostrarResultados()
-{
-    tbResultados.Text(lenguaje::Marcador(Ejercicios.Valor(), Errores.Valor()));
-}
-
-KeyResult FormFactores::Editar(const std::function<bool(Escalera&)>& tecla)
+KeyResult FormFactores::Editar(const std::function<Escalera::Efecto(Escalera&)>& tecla)
 {
     Escalera escalera(TbDesco.Utf16Text(), TbDesco.SelStart());
-    if (tecla(escalera)) {
+    const Escalera::Efecto efecto = tecla(escalera);
+    if (efecto == Escalera::Efecto::Hecho) {
         TbDesco.Edit(escalera.Texto(), escalera.Cursor());
-    } else {
+    } else if (efecto == Escalera::Efecto::Negado) {
         TbDesco.Refuse();
     }
-    return KeyResult::Swallow;
+    return efecto == Escalera::Efecto::Ajeno ? KeyResult::Pass : KeyResult::Swallow;
 }
 
 } // namespace ejercicios

@@ -38,13 +38,10 @@ private:
     void LeerEscalera(bool soloLeer);
 
     void NuevaEscalera();
-    void SortearValor(int limite);
     void LeerValor();
-    void Incorrecto(std::string_view motivo);
-    void MostrarResultados();
 
-    // Lets a key do to the ladder what it does. Refused where a bar is in the way.
-    ui::KeyResult Editar(const std::function<bool(reglas::Escalera&)>& tecla);
+    // Lets a key do to the ladder what it does.
+    ui::KeyResult Editar(const std::function<reglas::Escalera::Efecto(reglas::Escalera&)>& tecla);
 
     ui::TextBox& TbValor = The<ui::TextBox>("TbValor");
     ui::TextArea& TbDesco = The<ui::TextArea>("TbDesco");
@@ -53,7 +50,7 @@ private:
     ui::TextBox& tbResultados = The<ui::TextBox>("tbResultados");
 
     numeros::Entero16 Valor;
-    numeros::Entero16 OpcionValores = 2;
+    int OpcionValores = 2;
     numeros::Entero16 Ejercicios;
     numeros::Entero16 Errores;
     bool puntuable = true; // the exercise still counts

@@ -51,13 +51,8 @@ constexpr ui::ControlDesign Raya(int index, std::string_view marco)
 }
 
 constexpr ui::ControlDesign fijos[]{
-    {.kind = TextArea,
-     .name = "Text1",
-     .text = "Expresa con una fracción la parte que representa cada color\r\n",
-     .accessibleName = "Instrucciones",
-     .keys = "L repite el ejercicio. F4 dice el marcador.",
-     .place = {250, 200, 4500, 800},
-     .tab = 0},
+    comun::Instrucciones("Text1", "Expresa con una fracción la parte que representa cada color\r\n",
+                         "L repite el ejercicio. F4 dice el marcador.", {250, 200, 4500, 800}),
     {.kind = Picture, .name = "Picture1", .place = {5100, 1200, 3800, 4800}},
     Marco(0, "ROJO", 250, Color::Red),
     Marco(1, "AMARILLO", 1800, Color::Yellow),
@@ -72,13 +67,7 @@ constexpr ui::ControlDesign fijos[]{
     Raya(2, "Frame1(2)"),
     Caja(5, "Denominador verde", "Frame1(2)"),
     comun::Hecho({1500, 3000, 2000, 350}, 7),
-    {.name = "TBResultado",
-     .accessibleName = "Mensajes",
-     .place = {500, 3500, 4000, 400},
-     .tab = 8,
-     .speaking = Speaking::Spoken,
-     .coloring = Coloring::Selection,
-     .font = "Arial Narrow"},
+    comun::EnTipo(comun::Mensajes("TBResultado", {500, 3500, 4000, 400}, 8), "Arial Narrow"),
     comun::BotonContinuar({1750, 4100, 1500, 350}, 9),
     comun::BotonBorrar({250, 4100, 1500, 350}, 10),
     comun::BotonVerSolucion({3250, 4100, 1500, 350}, 11),
@@ -92,13 +81,11 @@ constexpr ui::ControlDesign fijos[]{
 
 // One token more than the largest board has: it is never shown.
 constexpr auto controles = [] {
-    std::array<ui::ControlDesign, std::size(fijos) + numeroFichas + 1> todos;
-    auto* next = std::ranges::copy(fijos, todos.begin()).out;
-    for (int i = 0; i <= numeroFichas; ++i) {
-        *next = ui::ButtonDesign("CBFicha", i, "", {0, 0, 225, 225}, 12 + i, Color::Red);
-        next->accessibleName = "ficha";
-        next++->inside = "Picture1";
-    }
+    auto todos = comun::ConFilas<numeroFichas + 1>(fijos, [](int i) {
+        auto ficha = ui::ButtonDesign("CBFicha", i, "", {0, 0, 225, 225}, 12 + i, Color::Red);
+        ficha.accessibleName = "ficha"; // until its colour is known
+        return std::array{comun::Dentro("Picture1", ficha)};
+    });
     for (ui::ControlDesign& control : todos) {
         if (control.name != "TBResultado") {
             control.font = "Comic Sans MS";
@@ -159,11 +146,7 @@ KeyResult FormFichas::Form_KeyDown(int KeyCode, int)
 
 void FormFichas::Command1_Click()
 {
-    const std::array<int, 6> solucion = m_tablero.Solucion();
-    int aciertos = 0;
-    for (const ui::TextBox& box : TBFrac) {
-        aciertos += box.Number() == solucion.at(static_cast<std::size_t>(box.Index())) ? 1 : 0;
-    }
+    const int aciertos = comun::Aciertos(TBFrac, m_tablero.Solucion());
     if (!resuelto) {
         Ejercicios += 1; // with every check, right or wrong
     }
@@ -232,10 +215,7 @@ void FormFichas::Borrar()
 
 void FormFichas::VerSolucion()
 {
-    const std::array<int, 6> solucion = m_tablero.Solucion();
-    for (ui::TextBox& box : TBFrac) {
-        box.Text(solucion.at(static_cast<std::size_t>(box.Index())));
-    }
+    comun::EscribirTodas(TBFrac, m_tablero.Solucion());
     resuelto = true;
 }
 

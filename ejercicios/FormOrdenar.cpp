@@ -29,15 +29,11 @@ constexpr ui::ControlDesign Fraccion(int index)
 constexpr std::string_view estrecho = "Arial Narrow";
 
 constexpr ui::ControlDesign controles[]{
-    {.kind = TextArea,
-     .name = "Text1",
-     .text = "Ordena estas fracciones de menor a mayor\r\n"
-             "Pulsa sobre una fracción para moverla hacia la izquierda \r\n",
-     .accessibleName = "Instrucciones",
-     .keys = "F3 repite el ejercicio.",
-     .place = {300, 200, 6600, 800},
-     .tab = 0,
-     .font = estrecho},
+    comun::EnTipo(comun::Instrucciones("Text1",
+                                       "Ordena estas fracciones de menor a mayor\r\n"
+                                       "Pulsa sobre una fracción para moverla hacia la izquierda \r\n",
+                                       "F3 repite el ejercicio.", {300, 200, 6600, 800}),
+                  estrecho),
     Fraccion(0),
     Fraccion(1),
     Fraccion(2),
@@ -81,7 +77,7 @@ void FormOrdenar::Form_Load()
 // The four from left to right.
 std::string FormOrdenar::Exercise() const
 {
-    return EnPalabras(0) + ", " + EnPalabras(1) + ", " + EnPalabras(2) + ", " + EnPalabras(3);
+    return lenguaje::FraccionesEnLetras(m_ordenacion.Fracciones());
 }
 
 void FormOrdenar::Command1_Click(int Index)

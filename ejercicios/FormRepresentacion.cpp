@@ -7,31 +7,25 @@
 #include "Lectura.h"
 #include "Reparto.h"
 
-#include <algorithm>
-#include <array>
-
 namespace ejercicios {
 
 namespace {
 
 using enum ui::Kind;
-using ui::Alignment;
+using reglas::maximoPartes;
 using ui::Color;
-using ui::Coloring;
-using ui::Speaking;
 
-constexpr int numeroPartes = reglas::maximoPartes;
-
-constexpr ui::ControlDesign Cifra(int index, std::string_view nombre, int top, int tab)
+constexpr ui::ControlDesign Caja(std::string_view name, int index, std::string_view text, std::string_view nombre,
+                                 const ui::Place& place, int tab)
 {
-    return {.name = "Text2",
+    return {.name = name,
             .index = index,
-            .text = "10",
+            .text = text,
             .accessibleName = nombre,
-            .place = {1750, top, 500, 500},
+            .place = place,
             .tab = tab,
-            .alignment = Alignment::Center,
-            .points = 20.25};
+            .alignment = ui::Alignment::Center,
+            .points = name == "Text2" ? 20.25 : 12};
 }
 
 constexpr ui::ControlDesign Palabra(int index, std::string_view text, std::string_view nombre, int top, int tab)
@@ -42,8 +36,8 @@ constexpr ui::ControlDesign Palabra(int index, std::string_view text, std::strin
             .accessibleName = nombre,
             .place = {2750, top, 2000, 500},
             .tab = tab,
-            .speaking = Speaking::Spoken,
-            .coloring = Coloring::Selection,
+            .speaking = ui::Speaking::Spoken,
+            .coloring = ui::Coloring::Selection,
             .points = 15.75};
 }
 
@@ -59,59 +53,32 @@ constexpr ui::ControlDesign Rotulo(int index, std::string_view text, int top, in
 }
 
 constexpr ui::ControlDesign fijos[]{
-    {.kind = TextArea,
-     .name = "Text1",
-     .text = "Escribe el número de partes a realizar y colorea las \r\n"
-             "partes necesarias haciendo click en ellas.\r\n",
-     .accessibleName = "Instrucciones",
-     .keys = "F4 dice el marcador.",
-     .place = {250, 100, 6000, 700},
-     .tab = 0},
-    Cifra(0, "Numerador", 900, 1),
+    comun::Instrucciones("Text1",
+                         "Escribe el número de partes a realizar y colorea las \r\n"
+                         "partes necesarias haciendo click en ellas.\r\n",
+                         "F4 dice el marcador.", {250, 100, 6000, 700}),
+    Caja("Text2", 0, "10", "Numerador", {1750, 900, 500, 500}, 1),
     {.kind = Line, .name = "Line1", .place = {1750, 1435, 500, 30}},
-    Cifra(1, "Denominador", 1500, 2),
+    Caja("Text2", 1, "10", "Denominador", {1750, 1500, 500, 500}, 2),
     Palabra(0, "diez", "Numerador en palabras", 900, 3),
     Palabra(1, "décimos", "Denominador en palabras", 1500, 4),
     Rotulo(1, "P&artes coloreadas:", 2100, 7),
-    {.name = "Text4",
-     .index = 1,
-     .text = "0",
-     .accessibleName = "Partes coloreadas",
-     .place = {4535, 2100, 715, 405},
-     .tab = 8,
-     .alignment = Alignment::Center},
+    Caja("Text4", 1, "0", "Partes coloreadas", {4535, 2100, 715, 405}, 8),
     Rotulo(0, "&Partes en total:", 2600, 5),
-    {.name = "Text4",
-     .index = 0,
-     .accessibleName = "Partes en total",
-     .place = {4535, 2600, 715, 405},
-     .tab = 6,
-     .typing = ui::Typing::Editable,
-     .alignment = Alignment::Center},
+    comun::Editable(Caja("Text4", 0, "", "Partes en total", {4535, 2600, 715, 405}, 6)),
     {.kind = Picture, .name = "Picture1", .place = {1250, 3100, 4000, 2400}},
     comun::Hecho({2500, 5500, 1500, 495}, 19),
-    {.name = "Text5",
-     .accessibleName = "Mensajes",
-     .place = {2250, 6100, 2000, 500},
-     .tab = 20,
-     .speaking = Speaking::Spoken,
-     .coloring = Coloring::Selection,
-     .points = 9.75},
+    comun::EnTipo(comun::Mensajes("Text5", {2250, 6100, 2000, 500}, 20), "Arial", 9.75),
     comun::BotonContinuar({2500, 6700, 1500, 500}, 21),
     comun::BotonBorrar({500, 6700, 1500, 500}, 22),
     comun::BotonVerSolucion({4500, 6700, 1500, 500}, 23),
     comun::LineaMarcador({1750, 7500, 3000, 495}, 24, 12),
 };
 
-constexpr auto controles = [] {
-    std::array<ui::ControlDesign, std::size(fijos) + numeroPartes> todos;
-    auto* next = std::ranges::copy(fijos, todos.begin()).out;
-    for (int i = 0; i < numeroPartes; ++i) {
-        *next = ui::ButtonDesign("CbParte", i, "1", {0, 0, 1215, 495}, 9 + i, Color::Green);
-        next++->inside = "Picture1";
-    }
-    return todos;
-}();
+constexpr auto controles = comun::ConFilas<maximoPartes>(fijos, [](int i) {
+    const ui::Place unica{0, 0, 1215, 495}; // until they are laid out
+    return std::array{comun::Dentro("Picture1", ui::ButtonDesign("CbParte", i, "1", unica, 9 + i, Color::Green))};
+});
 
 constexpr ui::MenuDesign menus[]{
     {0, "MnuOpc", ui::noIndex, "&Opciones"},
@@ -140,7 +107,7 @@ void FormRepresentacion::Form_Load()
     numeros::Sembrar(ui::TimeOfDaySeed());
     NuevaFraccion();
     CrearPartes();
-    DistribuirPartes(numeroPartes);
+    DistribuirPartes(maximoPartes);
 }
 
 void FormRepresentacion::CbParte_Click(int Index)
@@ -158,12 +125,9 @@ void FormRepresentacion::Command1_Click()
     const bool correcta =
         Text4[0].Number() == m_fraccion.denominador.Valor() && Text4[1].Number() == m_fraccion.numerador.Valor();
     if (puntuable) {
-        Ejercicios += 1;
-        if (correcta) {
-            puntuable = false;
-        } else {
-            Errores += 1; // and again with every further wrong answer
-        }
+        Ejercicios += 1; // with a wrong answer again and again
+        Errores += correcta ? 0 : 1;
+        puntuable = !correcta;
     }
     tbResultados.Text(lenguaje::Marcador(Ejercicios.Valor(), Errores.Valor()));
     if (correcta) {
@@ -179,7 +143,8 @@ void FormRepresentacion::Text4_Change(int Index)
         return;
     }
     if (const auto partes = reglas::PartesCorregidas(Text4[0].Number())) {
-        Corregir(*partes);
+        Text4[0].Text(*partes);
+        Text4[0].Refuse();
     }
     PonerPartes(0);
     PartesColoreadas = 0;
@@ -189,8 +154,9 @@ void FormRepresentacion::Text4_Change(int Index)
 
 void FormRepresentacion::MnuOpcLee_Click()
 {
-    comun::EscribirOtraVez(Text3[0], NumeradorEnLetras());
-    comun::EscribirOtraVez(Text3[1], DenominadorEnLetras());
+    const auto [numerador, denominador] = EnLetras();
+    comun::EscribirOtraVez(Text3[0], numerador);
+    comun::EscribirOtraVez(Text3[1], denominador);
 }
 
 void FormRepresentacion::NuevaFraccion()
@@ -198,14 +164,15 @@ void FormRepresentacion::NuevaFraccion()
     m_fraccion = reglas::SortearFraccion();
     Text2[0].Text(m_fraccion.numerador);
     Text2[1].Text(m_fraccion.denominador);
-    Text3[0].Text(NumeradorEnLetras());
-    Text3[1].Text(DenominadorEnLetras());
+    const auto [numerador, denominador] = EnLetras();
+    Text3[0].Text(numerador);
+    Text3[1].Text(denominador);
 }
 
 // The picture at opening is a sample: every other part red.
 void FormRepresentacion::CrearPartes()
 {
-    for (int i = 0; i < numeroPartes; ++i) {
+    for (int i = 0; i < maximoPartes; ++i) {
         PonerParte(i, i % 2 == 0);
     }
 }
@@ -232,15 +199,9 @@ void FormRepresentacion::PonerParte(int indice, bool roja)
 // The first `rojas` parts red, the others green.
 void FormRepresentacion::PonerPartes(int rojas)
 {
-    for (int i = 0; i < numeroPartes; ++i) {
+    for (int i = 0; i < maximoPartes; ++i) {
         PonerParte(i, i < rojas);
     }
-}
-
-void FormRepresentacion::Corregir(int partes)
-{
-    Text4[0].Text(partes);
-    Text4[0].Refuse();
 }
 
 void FormRepresentacion::Continuar()
@@ -272,15 +233,12 @@ void FormRepresentacion::VerSolucion()
     Text4[0].SetFocus();
 }
 
-std::string FormRepresentacion::NumeradorEnLetras() const
+std::array<std::string, 2> FormRepresentacion::EnLetras() const
 {
-    return lenguaje::EnLetrasSolo(m_fraccion.numerador.Valor());
-}
-
-std::string FormRepresentacion::DenominadorEnLetras() const
-{
-    return lenguaje::DenominadorEnLetras(m_fraccion.numerador.Valor(), m_fraccion.denominador.Valor(),
-                                         {lenguaje::Variante::Entera, lenguaje::Singular::HastaUno});
+    constexpr lenguaje::Modo modo{lenguaje::Variante::Entera, lenguaje::Singular::HastaUno};
+    const int numerador = m_fraccion.numerador.Valor();
+    return {lenguaje::EnLetrasSolo(numerador),
+            lenguaje::DenominadorEnLetras(numerador, m_fraccion.denominador.Valor(), modo)};
 }
 
 } // namespace ejercicios

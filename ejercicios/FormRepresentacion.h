@@ -5,6 +5,9 @@
 #include "Ejercicio.h"
 #include "Fraccion.h"
 
+#include <array>
+#include <string>
+
 namespace ejercicios {
 
 class FormRepresentacion final : public comun::Ejercicio
@@ -27,12 +30,10 @@ private:
 
     void PonerParte(int indice, bool roja);
     void PonerPartes(int rojas);
-    void Corregir(int partes);
     void Continuar() override;
     void Borrar() override;
     void VerSolucion() override;
-    std::string NumeradorEnLetras() const;
-    std::string DenominadorEnLetras() const;
+    std::array<std::string, 2> EnLetras() const; // numerator and denominator
 
     const ui::ControlArray<ui::TextBox> Text2 = All<ui::TextBox>("Text2");
     const ui::ControlArray<ui::TextBox> Text3 = All<ui::TextBox>("Text3");

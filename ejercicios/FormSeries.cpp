@@ -6,8 +6,6 @@
 #include "Keys.h"
 #include "Lectura.h"
 
-#include <algorithm>
-
 namespace ejercicios {
 
 namespace {
@@ -45,37 +43,26 @@ constexpr ui::ControlDesign fijos[]{
      .points = 14.25,
      .weight = Weight::Bold},
     comun::Hecho({5250, 2800, 1500, 495}, 17),
-    {.name = "Text3",
-     .accessibleName = "Mensajes",
-     .place = {4500, 3450, 3000, 500},
-     .tab = 18,
-     .speaking = ui::Speaking::Spoken,
-     .coloring = ui::Coloring::Selection,
-     .alignment = Alignment::Center},
+    comun::Centrada(comun::Mensajes("Text3", {4500, 3450, 3000, 500}, 18)),
     comun::BotonContinuar({5250, 4100, 1500, 500}, 19),
     comun::BotonBorrar({3600, 4100, 1500, 500}, 20),
     comun::BotonVerSolucion({6900, 4100, 1500, 500}, 21),
     comun::LineaMarcador({0, 5300, 3000, 495}, 22, 12),
 };
 
-constexpr auto controles = [] {
-    constexpr std::array<std::string_view, terminos> numeradores{
-        "Numerador del término 1", "Numerador del término 2", "Numerador del término 3", "Numerador del término 4",
-        "Numerador del término 5", "Numerador del término 6", "Numerador del término 7", "Numerador del término 8"};
-    constexpr std::array<std::string_view, terminos> denominadores{
-        "Denominador del término 1", "Denominador del término 2", "Denominador del término 3",
-        "Denominador del término 4", "Denominador del término 5", "Denominador del término 6",
-        "Denominador del término 7", "Denominador del término 8"};
-    std::array<ui::ControlDesign, std::size(fijos) + std::size_t{3} * terminos> todos;
-    auto* next = std::ranges::copy(fijos, todos.begin()).out;
-    for (int i = 0; i < terminos; ++i) {
-        *next = Termino("Text1", i, numeradores[i], 1000, 1 + 2 * i);
-        const ui::Place& encima = next++->place;
-        *next++ = {.kind = Line, .name = "Line1", .index = i, .place = {encima.left, 1635, 1000, 30}};
-        *next++ = Termino("Text2", i, denominadores[i], 1700, 2 + 2 * i);
-    }
-    return todos;
-}();
+constexpr std::array<std::string_view, terminos> numeradores{
+    "Numerador del término 1", "Numerador del término 2", "Numerador del término 3", "Numerador del término 4",
+    "Numerador del término 5", "Numerador del término 6", "Numerador del término 7", "Numerador del término 8"};
+constexpr std::array<std::string_view, terminos> denominadores{
+    "Denominador del término 1", "Denominador del término 2", "Denominador del término 3", "Denominador del término 4",
+    "Denominador del término 5", "Denominador del término 6", "Denominador del término 7", "Denominador del término 8"};
+
+constexpr auto controles = comun::ConFilas<terminos>(fijos, [](int i) {
+    const ui::ControlDesign encima = Termino("Text1", i, numeradores[i], 1000, 1 + 2 * i);
+    const ui::Place raya{encima.place.left, 1635, 1000, 30};
+    return std::array{encima, ui::ControlDesign{.kind = Line, .name = "Line1", .index = i, .place = raya},
+                      Termino("Text2", i, denominadores[i], 1700, 2 + 2 * i)};
+});
 
 constexpr ui::MenuDesign menus[]{
     {0, "MnuOpc", ui::noIndex, "&Opciones"},
@@ -121,11 +108,8 @@ void FormSeries::Form_Load()
 
 std::string FormSeries::Exercise() const
 {
-    std::string texto;
-    for (int i = 0; i < PosicionHueco; ++i) {
-        texto += (i == 0 ? "" : ", ") + EnPalabras(i);
-    }
-    return texto + "; falta el término " + std::to_string(PosicionHueco + 1);
+    return lenguaje::FraccionesEnLetras(m_serie.Primeros(PosicionHueco)) + "; falta el término " +
+           std::to_string(PosicionHueco + 1);
 }
 
 // The term itself is asked for, not its value.
@@ -223,11 +207,6 @@ void FormSeries::MostrarSerie()
     }
 }
 
-std::string FormSeries::EnPalabras(int termino) const
-{
-    return lenguaje::FraccionEnLetras(m_serie.Termino(termino));
-}
-
 void FormSeries::Continuar()
 {
     Text3.Text("");
@@ -249,7 +228,7 @@ void FormSeries::VerSolucion()
     Text1[PosicionHueco].Text(numerador);
     Text2[PosicionHueco].Text(denominador);
     solucionVista = true;
-    Tell(EnPalabras(PosicionHueco));
+    Tell(lenguaje::FraccionEnLetras({numerador, denominador}));
 }
 
 void FormSeries::Proteger(ui::TextBox& termino, const reglas::Numeros& numeros) const
@@ -257,7 +236,7 @@ void FormSeries::Proteger(ui::TextBox& termino, const reglas::Numeros& numeros) 
     if (termino.Index() >= PosicionHueco) {
         return;
     }
-    const std::string correcto = std::to_string(numeros.at(static_cast<std::size_t>(termino.Index())));
+    const std::string correcto = std::to_string(numeros.at(termino.Index()));
     if (termino.Text() != correcto) {
         termino.Text(correcto);
         termino.Say(); // or else the key would sound as if it had done something

@@ -29,7 +29,6 @@ private:
     void NuevaSerie();
     void GenerarSerie(const reglas::Nivel& nivel);
     void MostrarSerie();
-    std::string EnPalabras(int termino) const;
 
     // A term that is shown cannot be edited.
     void Proteger(ui::TextBox& termino, const reglas::Numeros& numeros) const;

@@ -49,6 +49,15 @@ std::string FraccionEnLetras(const numeros::Fraccion& fraccion)
     return FraccionEnLetras(fraccion.numerador.Valor(), fraccion.denominador.Valor(), {});
 }
 
+std::string FraccionesEnLetras(std::span<const numeros::Fraccion> fracciones)
+{
+    std::string texto;
+    for (const numeros::Fraccion& fraccion : fracciones) {
+        texto += (texto.empty() ? "" : ", ") + FraccionEnLetras(fraccion);
+    }
+    return texto;
+}
+
 std::string OperacionEnLetras(const std::array<double, 6>& valores, std::string_view signo, std::string_view igual,
                               Modo modo)
 {

@@ -6,6 +6,7 @@
 #include "Numerales.h"
 
 #include <array>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -38,6 +39,9 @@ std::string DenominadorEnLetras(double numerador, double denominador, Modo modo)
 // "tres cuartos", "un medio".
 std::string FraccionEnLetras(double numerador, double denominador, Modo modo);
 std::string FraccionEnLetras(const numeros::Fraccion& fraccion);
+
+// Several, with ", " between them.
+std::string FraccionesEnLetras(std::span<const numeros::Fraccion> fracciones);
 
 // "tres cuartos+un medio=": an operation of two fractions, with what stands between and behind them, and its result,
 // where that is not 0/0. The six numbers are the numerators and denominators in their order.

@@ -25,7 +25,7 @@ constexpr std::array<string_view, 11> centenas{"ciento ",      "doscientos ",  "
                                                "quinientos ",  "seiscientos ", "setecientos ", "ochocientos ",
                                                "novecientos ", "mil",          "cien"};
 
-// "Sexto" has its capital, and "dieciseisavo" no accent beside "dieciséis": both are kept on purpose.
+// "Sexto" has its capital, and "dieciseisavo" no accent beside "dieciséis".
 constexpr TablasNumerales tablas{
     .Unidades = {"",        "uno",    "dos",       "tres",       "cuatro",    "cinco",      "seis",
                  "siete",   "ocho",   "nueve",     "diez",       "once",      "doce",       "trece",
@@ -43,7 +43,7 @@ constexpr TablasNumerales tablas{
     .CentenasPartes = centenas,
 };
 
-// Words for the groups of three digits: units, thousands, millions and so on. The blanks are uneven on purpose.
+// Words for the groups of three digits: units, thousands, millions and so on, with uneven blanks.
 constexpr std::array<string_view, 8> escalas{"",           "mil ", " millones ", "mil ",
                                              " billones ", "mil ", " trillones", "mil "};
 constexpr std::array<string_view, 8> escalasPartes{

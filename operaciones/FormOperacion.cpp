@@ -93,7 +93,7 @@ void FormOperacion::MnuOpcTec_Click()
 void FormOperacion::NuevoEjercicio()
 {
     constexpr std::array limites{10, 20, 100};
-    const auto [primero, segundo] = SortearOperandos(limites.at(static_cast<std::size_t>(OpcionCantidad.Valor())));
+    const auto [primero, segundo] = SortearOperandos(limites.at(OpcionCantidad));
     Text1[0].Text(primero.numerador);
     Text1[1].Text(primero.denominador);
     Text1[2].Text(segundo.numerador);

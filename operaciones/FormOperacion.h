@@ -109,7 +109,7 @@ private:
 
     const Operacion m_operacion;
 
-    numeros::Entero16 OpcionCantidad;
+    int OpcionCantidad = 0;
     numeros::Entero16 Ejercicios;
     numeros::Entero16 Errores;
     bool Pendiente = true;

@@ -53,40 +53,58 @@ Escalera::Escalera(std::u16string texto, int cursor)
 {
 }
 
-bool Escalera::Escribir(char16_t caracter)
+Escalera::Efecto Escalera::Pulsar(int caracter)
+{
+    constexpr int controlA = 1;
+    constexpr int controlC = 3;
+    constexpr int retroceso = 8;
+    constexpr int escape = 27;
+    switch (caracter) {
+    case retroceso:
+        return Retroceso();
+    case controlA:
+    case controlC:
+    case escape:
+        return Efecto::Ajeno;
+    default:
+        return caracter < ' ' && caracter != enter ? Efecto::Negado : Escribir(static_cast<char16_t>(caracter));
+    }
+}
+
+Escalera::Efecto Escalera::Escribir(char16_t caracter)
 {
     const bool hay = m_cursor < m_texto.size();
     if (hay && m_texto[m_cursor] == barra && caracter != u'=') {
-        return false;
+        return Efecto::Negado;
     }
     const std::u16string nuevo = caracter == enter ? std::u16string(finDeLinea) : std::u16string(1, caracter);
     m_texto.replace(m_cursor, hay ? 1 : 0, nuevo);
     m_cursor += nuevo.size();
-    return true;
+    return Efecto::Hecho;
 }
 
-bool Escalera::Retroceso()
+Escalera::Efecto Escalera::Retroceso()
 {
     if (m_cursor == 0) {
-        return true;
+        return Efecto::Hecho;
     }
     if (m_texto[m_cursor - 1] == barra) {
-        return false;
+        return Efecto::Negado;
     }
     m_texto[--m_cursor] = u' ';
-    return true;
+    return Efecto::Hecho;
 }
 
-bool Escalera::Suprimir()
+Escalera::Efecto Escalera::Suprimir()
 {
     if (m_cursor == m_texto.size()) {
-        return true;
+        return Efecto::Hecho;
     }
     if (m_texto[m_cursor] == barra) {
-        return false;
+        return Efecto::Negado;
     }
     m_texto[m_cursor] = u' ';
-    return true;
+    return Efecto::Hecho;
 }
 
 Divisores Escalera::LeerDivisores() const

@@ -25,17 +25,18 @@ public:
     const std::u16string& Texto() const { return m_texto; }
     int Cursor() const { return static_cast<int>(m_cursor); }
 
-    // What a key does to the text and the caret. False where a bar is in the way: then nothing changes.
-    //
-    // A typed character takes the place of the one under the caret, be it part of a line end; only "=" takes that of a
-    // bar. Enter (13) puts a line end there.
-    bool Escribir(char16_t caracter);
+    // What a key does to the text and the caret: something, or nothing where a bar is in the way. A key that the
+    // ladder does not know has no business with the text either way, or may not have any.
+    enum class Efecto { Hecho, Negado, Ajeno };
 
-    // Turns the character before the caret into a blank and goes there. At the start of the text nothing changes.
-    bool Retroceso();
+    // A typed character takes the place of the one under the caret, be it part of a line end; only "=" takes that of a
+    // bar. Enter (13) puts a line end there. Backspace (8) turns the character before the caret into a blank and goes
+    // there; at the start of the text nothing changes. Escape, and Control with A or C, are none of the ladder's; any
+    // other control character, which would change the text in a way of its own, is denied.
+    Efecto Pulsar(int caracter);
 
     // Turns the character under the caret into a blank. At the end of the text nothing changes.
-    bool Suprimir();
+    Efecto Suprimir();
 
     // The numbers behind the bars, row by row up to the first empty row or the fifteenth one; 0 for the rows that there
     // are not. A row without a bar is read from its start, and what follows the last line feed not at all. Throws
@@ -43,6 +44,9 @@ public:
     Divisores LeerDivisores() const;
 
 private:
+    Efecto Escribir(char16_t caracter);
+    Efecto Retroceso();
+
     std::u16string m_texto;
     std::size_t m_cursor = 0;
 };

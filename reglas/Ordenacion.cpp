@@ -66,8 +66,8 @@ void Ordenacion::Mover(int posicion)
 void Ordenacion::Desordenar()
 {
     do {
-        const int i = numeros::Sortear(cuantas, 0);
-        const int j = numeros::Sortear(cuantas, 0);
+        const auto i = static_cast<std::size_t>(numeros::Sortear(cuantas, 0));
+        const auto j = static_cast<std::size_t>(numeros::Sortear(cuantas, 0));
         std::swap(m_fracciones.at(i), m_fracciones.at(j));
     } while (EstanOrdenadas());
 }

@@ -4,6 +4,7 @@
 #include "Fraccion.h"
 
 #include <array>
+#include <span>
 
 namespace reglas {
 
@@ -23,6 +24,8 @@ public:
     {
         return m_fracciones.at(static_cast<std::size_t>(posicion));
     }
+
+    std::span<const numeros::Fraccion> Fracciones() const { return m_fracciones; }
 
     // Whether they grow from left to right.
     bool EstanOrdenadas() const;

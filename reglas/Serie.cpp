@@ -30,10 +30,11 @@ Numeros Constante()
 Numeros Aritmetica()
 {
     const int paso = ConSigno(7);
-    const int inicio = paso < 0 ? Sortear(8, 0) - terminos * paso : Sortear(8, 1);
+    int termino = paso < 0 ? Sortear(8, 0) - terminos * paso : Sortear(8, 1);
     Numeros numeros{};
-    for (int i = 0; i < terminos; ++i) {
-        numeros[i] = inicio + i * paso;
+    for (int& numero : numeros) {
+        numero = termino;
+        termino += paso;
     }
     return numeros;
 }
@@ -83,6 +84,15 @@ std::optional<Par> SortearTerminos(int nivel)
 }
 
 } // namespace
+
+std::vector<numeros::Fraccion> Serie::Primeros(int cuantos) const
+{
+    std::vector<numeros::Fraccion> primeros;
+    for (int i = 0; i < cuantos; ++i) {
+        primeros.push_back(Termino(i));
+    }
+    return primeros;
+}
 
 int TerminosMostrados(const Nivel& elegido)
 {

@@ -5,6 +5,7 @@
 
 #include <array>
 #include <optional>
+#include <vector>
 
 namespace reglas {
 
@@ -23,6 +24,9 @@ struct Serie
         const auto posicion = static_cast<std::size_t>(i);
         return {NumeradoresSerie.at(posicion), DenominadoresSerie.at(posicion)};
     }
+
+    // The first `cuantos` terms.
+    std::vector<numeros::Fraccion> Primeros(int cuantos) const;
 };
 
 // A level: 1 to 4, the harder the greater, and A or B, in which every second term is upside down.

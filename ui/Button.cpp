@@ -19,7 +19,7 @@ Button::Button(const ControlDesign& design, FaceButton* button)
 {
     Caption(design.text);
     QObject::connect(button, &QPushButton::clicked, button, [this] {
-        if (pressed) {
+        if (OnClick && pressed) {
             pressed();
         }
     });
@@ -54,9 +54,7 @@ void Button::Press()
 
 void Button::Click() const
 {
-    if (OnClick) {
-        OnClick(Index());
-    }
+    OnClick(Index());
 }
 
 bool Button::HasAccessKey(const QKeySequence& key) const

@@ -38,13 +38,13 @@ public:
 
     void BackColor(Color color);
 
-    // Runs the handler.
+    // Runs the handler, which there is.
     void Click() const;
 
     // Handler, with the button's index in its array.
     std::function<void(int Index)> OnClick;
 
-    // What pressing the button brings: Click, and whatever the form does around it.
+    // What pressing a button with a handler brings: Click, and whatever the form does around it.
     std::function<void()> pressed;
 
 private:

@@ -9,6 +9,7 @@
 #include <QMenuBar>
 
 #include <algorithm>
+#include <cstdlib>
 
 namespace ui {
 
@@ -129,7 +130,8 @@ bool Form::IsMenuItem(std::string_view name) const
 
 void Form::EndOnName(std::string_view name) const
 {
-    qFatal("%s has no such control as %s", qPrintable(ToQString(m_design.name)), qPrintable(ToQString(name)));
+    qCritical("%s has no such control as %s", qPrintable(ToQString(m_design.name)), qPrintable(ToQString(name)));
+    std::_Exit(EXIT_FAILURE); // the mistake is the screen's author's, who sees it before anybody else does
 }
 
 void Form::BuildControls()

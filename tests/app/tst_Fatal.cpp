@@ -34,6 +34,29 @@ private slots:
                               "El programa va a cerrarse.",
                               score, ""}));
     }
+
+    void a_screen_that_asks_for_what_its_design_has_not_ends_the_program_data()
+    {
+        QTest::addColumn<QString>("told");
+        QTest::addRow("nothing") << "";
+        QTest::addRow("control") << "Muestra has no such control as Text2\n";
+        QTest::addRow("array") << "Muestra has no such control as Command1\n";
+        QTest::addRow("kind") << "Muestra has no such control as Text1\n";
+        QTest::addRow("menu") << "Muestra has no such control as MnuOpcSal\n";
+        QTest::addRow("handler") << "Muestra has no such control as Text3\n";
+    }
+    void a_screen_that_asks_for_what_its_design_has_not_ends_the_program()
+    {
+        QFETCH(QString, told);
+        QProcess program;
+        program.start(MISSPELT_PROGRAM, {QTest::currentDataTag()});
+        QVERIFY(program.waitForFinished(60'000));
+        QCOMPARE(program.exitStatus(), QProcess::NormalExit);
+        QCOMPARE(program.exitCode(), told.isEmpty() ? 0 : 1);
+        const QString said = QString::fromUtf8(program.readAllStandardError().replace("\r\n", "\n"));
+        QVERIFY2(said.endsWith(told), qPrintable(said)); // where the desktop lacks something Qt tells that before
+        QCOMPARE(said.contains("no such control"), !told.isEmpty());
+    }
 };
 
 QTEST_GUILESS_MAIN(tst_Fatal)

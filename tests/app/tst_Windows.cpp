@@ -175,7 +175,7 @@ private:
     {
         QTest::addColumn<QString>("window");
         for (const Window& window : Windows()) {
-            QTest::addRow("%s", window.name) << QString(window.name);
+            QTest::addRow("%s", qPrintable(window.name)) << window.name;
         }
     }
 
@@ -185,7 +185,7 @@ private:
         QTest::addColumn<QPalette>("theme");
         for (const auto& [name, theme] : themes) {
             for (const Window& window : Windows()) {
-                QTest::addRow("%s, %s", window.name, qPrintable(name)) << QString(window.name) << theme();
+                QTest::addRow("%s, %s", qPrintable(window.name), qPrintable(name)) << window.name << theme();
             }
         }
     }

@@ -15,6 +15,29 @@ std::array<int, reglas::filasEscalera> Sorted(const reglas::Divisores& divisors)
     return numbers;
 }
 
+bool IsPrime(numeros::Entero16 number)
+{
+    for (int d = 2; d * d <= number.Valor(); ++d) {
+        if (number.Valor() % d == 0) {
+            return false;
+        }
+    }
+    return true;
+}
+
+// There is none against the product of primes, and some against any other; behind a gap it depends.
+void CheckObjection(const reglas::Divisores& divisors)
+{
+    const auto isFactor = [](numeros::Entero16 divisor) { return divisor >= 2; };
+    const auto gap = std::ranges::find_if_not(divisors, isFactor);
+    if (std::find_if(gap, divisors.end(), isFactor) != divisors.end()) {
+        return;
+    }
+    const numeros::Entero16 product = reglas::Producto(divisors);
+    EXPECT(reglas::Objecion(divisors, product).has_value() == !std::all_of(divisors.begin(), gap, IsPrime));
+    EXPECT(reglas::Objecion(divisors, product == 7 ? 8 : 7).has_value());
+}
+
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
@@ -36,6 +59,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         reglas::Ordenar(divisors);
         EXPECT(Sorted(divisors) == before);
         (void)reglas::Lista(divisors);
+        CheckObjection(divisors);
         int product = reglas::Producto(divisors).Valor();
         for (const numeros::Entero16 divisor : divisors) {
             if (divisor.Valor() < 2) {

@@ -89,6 +89,14 @@ private slots:
         QCOMPARE(EnLetrasSolo(-3), "menos tres");
     }
 
+    void several_fractions_are_read_one_after_the_other()
+    {
+        QCOMPARE(FraccionesEnLetras({}), "");
+        const std::array<numeros::Fraccion, 3> three{{{1, 2}, {3, 4}, {2, 1}}};
+        QCOMPARE(FraccionesEnLetras(std::span(three).first(1)), "un medio");
+        QCOMPARE(FraccionesEnLetras(three), "un medio, tres cuartos, dos enteros");
+    }
+
     void operations_are_read_with_their_result_where_there_is_one_data()
     {
         QTest::addColumn<double>("numerator");

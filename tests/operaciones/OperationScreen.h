@@ -1,16 +1,15 @@
 // What the tests of the operation screens share: exercises, answers and draws.
 #pragma once
 
+#include "Operaciones.h"
 #include "Screen.h"
 
 #include <array>
-#include <vector>
 
 // First numerator and denominator, second numerator and denominator.
 using Operands = std::array<int, 4>;
 
 constexpr std::array limits{10, 20, 100};
-constexpr int manyExercises = 10'000;
 
 class OperationScreen : protected support::Screen
 {
@@ -76,80 +75,16 @@ protected:
         }
     }
 
-    static void Collect(const Operands& values, std::array<QSet<int>, 4>& seen)
-    {
-        for (int i = 0; i < 4; ++i) {
-            seen.at(i).insert(values.at(i));
-        }
-    }
-
-    static QSet<int> From(int first, int last)
-    {
-        QSet<int> values;
-        for (int value = first; value <= last; ++value) {
-            values.insert(value);
-        }
-        return values;
-    }
-
-    // Numerator and denominator of "n/d".
-    static std::pair<qint64, qint64> Parts(const QString& fraction)
-    {
-        return {fraction.section('/', 0, 0).toLongLong(), fraction.section('/', 1).toLongLong()};
-    }
-
-    // Every value from 2 to the limit comes up in each of the four boxes.
-    static void VerifyAllSeen(const std::array<QSet<int>, 4>& seen, int range)
-    {
-        for (const QSet<int>& values : seen) {
-            QCOMPARE(values, From(2, limits.at(range)));
-        }
-    }
-
-    // The boxes hold what was drawn, without any further rule.
-    void VerifyFreeDraws(int range) const
-    {
-        std::array<QSet<int>, 4> seen;
-        int sameDenominators = 0;
-        DrawExercises(range, [&](const Operands& drawn, const Operands& shown) {
-            QCOMPARE(shown, drawn);
-            Collect(shown, seen);
-            sameDenominators += shown[1] == shown[3] ? 1 : 0;
-        });
-        VerifyAllSeen(seen, range);
-        QVERIFY(sameDenominators > 50);
-    }
-
-    // Four values drawn for different denominators: a clash is resolved downwards.
-    static Operands WithoutClash(Operands values)
-    {
-        if (values[1] == values[3]) {
-            values[3] = values[3] == 2 ? 3 : values[3] - 1;
-        }
-        return values;
-    }
-
-    // Chooses range 0, 1 or 2 and has many exercises made. Of each, `verify` gets the four values drawn with the same
-    // seed, in their order, and the four shown.
-    template <class Verify>
-    void DrawExercises(int range, Verify verify) const
+    // The exercises of range 0, 1 or 2 are those that `rule` draws up to its limit.
+    template <class Rule>
+    void VerifyExercises(int range, Rule rule) const
     {
         Choose(QString("MnuOpcCanLis(%1)").arg(range));
-        numeros::FijarSemilla(99);
-        numeros::Sembrar(0);
-        std::vector<Operands> drawn(manyExercises);
-        for (Operands& values : drawn) {
-            for (int& value : values) {
-                value = numeros::Sortear(limits.at(range) - 1, 2);
-            }
-        }
-        numeros::Sembrar(0);
-        for (const Operands& values : drawn) {
-            Continue();
-            verify(values, Shown());
-            if (QTest::currentTestFailed()) {
-                return;
-            }
-        }
+        const auto drawn = [rule, range] {
+            const auto [first, second] = rule(limits.at(range));
+            return Operands{first.numerador.Valor(), first.denominador.Valor(), second.numerador.Valor(),
+                            second.denominador.Valor()};
+        };
+        VerifyDraws(20, drawn, [this] { return Shown(); });
     }
 };

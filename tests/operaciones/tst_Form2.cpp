@@ -21,15 +21,7 @@ private slots:
         QFETCH(int, range);
         Choose("MnuOpcDenLis(1)");
         Choose("MnuOpcDenLis(0)"); // back to one denominator
-        std::array<QSet<int>, 4> seen;
-        bool improper = false;
-        DrawExercises(range, [&](const Operands& drawn, const Operands& shown) {
-            QCOMPARE(shown, (Operands{drawn[0], drawn[1], drawn[2], drawn[1]}));
-            Collect(shown, seen);
-            improper = improper || shown[0] > shown[1];
-        });
-        VerifyAllSeen(seen, range);
-        QVERIFY(improper);
+        VerifyExercises(range, [](int limit) { return reglas::SortearSumandos(limit, true); });
     }
 
     void draws_different_denominators_data() { AddRanges(); }
@@ -37,16 +29,7 @@ private slots:
     {
         QFETCH(int, range);
         Choose("MnuOpcDenLis(1)");
-        std::array<QSet<int>, 4> seen;
-        int clashes = 0;
-        DrawExercises(range, [&](const Operands& drawn, const Operands& shown) {
-            QCOMPARE(shown, WithoutClash(drawn));
-            QVERIFY(shown[1] != shown[3]);
-            Collect(shown, seen);
-            clashes += drawn[1] == drawn[3] ? 1 : 0;
-        });
-        VerifyAllSeen(seen, range);
-        QVERIFY(clashes > 50);
+        VerifyExercises(range, [](int limit) { return reglas::SortearSumandos(limit, false); });
     }
 
     void shows_the_sum_over_the_denominators_own_common_multiple()
@@ -56,19 +39,6 @@ private slots:
         QCOMPARE(Solution({1, 6, 1, 4}), "5/12");
         QCOMPARE(Solution({1, 19, 1, 38}), "57/722");
         QCOMPARE(Solution({100, 99, 100, 98}), "19700/9702");
-    }
-
-    void every_pair_of_denominators_has_the_exact_sum()
-    {
-        for (int d1 = 2; d1 <= 100; ++d1) {
-            for (int d2 = 2; d2 <= 100; ++d2) {
-                const qint64 n1 = 2 + (d1 * 7 + d2) % 99;
-                const qint64 n2 = 2 + (d2 * 5 + d1) % 99;
-                const auto [n, d] = Parts(Solution({static_cast<int>(n1), d1, static_cast<int>(n2), d2}));
-                QVERIFY(d > 0 && d % d1 == 0 && d % d2 == 0);
-                QCOMPARE(n * d1 * d2, (n1 * d2 + n2 * d1) * d);
-            }
-        }
     }
 
     void a_repeated_verdict_stays_in_the_box_while_typing()

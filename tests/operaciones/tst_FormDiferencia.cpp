@@ -3,28 +3,6 @@
 
 using namespace support;
 
-namespace {
-
-// What the screen is to make of four values, step by step.
-constexpr Operands Ordered(Operands values, int limit)
-{
-    auto& [n1, d1, n2, d2] = values;
-    if (n2 > n1) {
-        std::swap(n1, n2);
-    }
-    if (n1 == n2) {
-        n1 += n1 < limit ? 1 : 0;
-    } else {
-        n2 -= 1;
-    }
-    return values;
-}
-static_assert(Ordered({7, 2, 7, 2}, 10) == Operands{8, 2, 7, 2});
-static_assert(Ordered({10, 2, 10, 2}, 10) == Operands{10, 2, 10, 2});
-static_assert(Ordered({4, 2, 9, 2}, 10) == Operands{9, 2, 3, 2});
-
-} // namespace
-
 class tst_FormDiferencia : public QObject, private OperationScreen
 {
     Q_OBJECT
@@ -41,9 +19,7 @@ private slots:
     void draws_one_denominator_and_orders_the_numerators()
     {
         QFETCH(int, range);
-        DrawExercises(range, [&](const Operands& drawn, const Operands& shown) {
-            QCOMPARE(shown, Ordered({drawn[0], drawn[1], drawn[2], drawn[1]}, limits.at(range)));
-        });
+        VerifyExercises(range, [](int limit) { return reglas::SortearResta(limit, true); });
     }
 
     void draws_different_denominators_and_orders_the_numerators_data() { AddRanges(); }
@@ -51,26 +27,7 @@ private slots:
     {
         QFETCH(int, range);
         Choose("MnuOpcDenLis(1)");
-        const int limit = limits.at(range);
-        std::array<QSet<int>, 4> seen;
-        int ties = 0;
-        int negative = 0;
-        DrawExercises(range, [&](const Operands& drawn, const Operands& shown) {
-            QCOMPARE(shown, Ordered(WithoutClash(drawn), limit));
-            QVERIFY(shown[1] != shown[3]);
-            QVERIFY(shown[0] > shown[2] || (shown[0] == limit && shown[2] == limit));
-            Collect(shown, seen);
-            ties += shown[0] == shown[2] ? 1 : 0;
-            negative += shown[0] * shown[3] < shown[2] * shown[1] ? 1 : 0;
-        });
-        QVERIFY(negative > 100);
-        if (limit < 100) { // at 100 the rarest values do not come up
-            QCOMPARE(seen[0], From(3, limit));
-            QCOMPARE(seen[2], From(1, limit));
-            QVERIFY(ties > 0);
-        }
-        QCOMPARE(seen[1], From(2, limit));
-        QCOMPARE(seen[3], From(2, limit));
+        VerifyExercises(range, [](int limit) { return reglas::SortearResta(limit, false); });
     }
 
     void shows_the_difference_over_a_common_denominator()
@@ -83,19 +40,6 @@ private slots:
         QCOMPARE(Solution({1, 19, 1, 38}), "19/722");
         QCOMPARE(Solution({100, 100, 1, 99}), "9800/9900");
         QCOMPARE(Solution({3, 99, 100, 2}), "-9894/198");
-    }
-
-    void every_pair_of_denominators_has_the_exact_difference()
-    {
-        for (int d1 = 2; d1 <= 100; ++d1) {
-            for (int d2 = 2; d2 <= 100; ++d2) {
-                const qint64 n1 = 2 + (d1 * 7 + d2) % 99;
-                const qint64 n2 = 1 + (d2 * 5 + d1) % n1;
-                const auto [n, d] = Parts(Solution({static_cast<int>(n1), d1, static_cast<int>(n2), d2}));
-                QVERIFY(d > 0 && d % d1 == 0 && d % d2 == 0);
-                QCOMPARE(n * d1 * d2, (n1 * d2 - n2 * d1) * d);
-            }
-        }
     }
 
     void accepts_negative_answers_wherever_the_sign_stands()

@@ -1,5 +1,4 @@
 #include "Escalera.h"
-#include "Primos.h"
 
 #include <QTest>
 
@@ -124,18 +123,32 @@ private slots:
         Escalera ladder(before.remove('^').toStdU16String(), caret);
         bool last = true;
         for (const QChar key : keys) {
-            last = key == '<'   ? ladder.Retroceso()
-                   : key == '.' ? ladder.Suprimir()
-                                : ladder.Escribir(key == '#' ? u'\r' : key.unicode());
+            const int character = key == '<' ? 8 : key == '#' ? 13 : key.unicode();
+            last = (key == '.' ? ladder.Suprimir() : ladder.Pulsar(character)) == Escalera::Efecto::Hecho;
         }
         QCOMPARE(QString::fromStdU16String(ladder.Texto()).insert(ladder.Cursor(), '^'), after);
         QCOMPARE(last, done);
     }
 
+    void other_control_characters_change_nothing()
+    {
+        for (int character = 1; character < ' '; ++character) {
+            if (character == 8 || character == 13) { // Backspace and Enter
+                continue;
+            }
+            const bool isForeign = character == 1 || character == 3 || character == 27; // Control+A, Control+C, Escape
+            Escalera ladder(u" 1", 1);
+            QCOMPARE(ladder.Pulsar(character), isForeign ? Escalera::Efecto::Ajeno : Escalera::Efecto::Negado);
+            QCOMPARE(ladder.Texto(), u" 1");
+            QCOMPARE(ladder.Cursor(), 1);
+        }
+    }
+
     void a_hundred_thousand_random_sequences_agree_with_a_naive_editor()
     {
         std::mt19937 random(5); // NOLINT(cert-msc51-cpp): the same sequences every time
-        const QString typed = "0123456789 |=x\r\n";
+        constexpr auto hecho = Escalera::Efecto::Hecho;
+        const QString typed = "0123456789 |=x\r";
         for (int sequence = 0; sequence < 100'000; ++sequence) {
             Naive naive{QString("     |    \r\n").repeated(1 + static_cast<int>(random() % 3)), 0};
             naive.s = static_cast<int>(random() % static_cast<unsigned>(naive.text.size() + 1));
@@ -146,11 +159,11 @@ private slots:
                 switch (random() % 5) {
                 case 0:
                     expected = naive.Backspace();
-                    done = ladder.Retroceso();
+                    done = ladder.Pulsar(8) == hecho;
                     break;
                 case 1:
                     expected = naive.Delete();
-                    done = ladder.Suprimir();
+                    done = ladder.Suprimir() == hecho;
                     break;
                 case 2: // the caret is put somewhere else
                     naive.s = static_cast<int>(random() % static_cast<unsigned>(naive.text.size() + 1));
@@ -160,7 +173,7 @@ private slots:
                 default: {
                     const QChar key = typed[static_cast<qsizetype>(random() % static_cast<unsigned>(typed.size()))];
                     expected = naive.Type(key);
-                    done = ladder.Escribir(key.unicode());
+                    done = ladder.Pulsar(key.unicode()) == hecho;
                     break;
                 }
                 }
@@ -195,39 +208,6 @@ private slots:
         QVERIFY_THROWS_EXCEPTION(Desbordamiento, Divisors(u"40000\r\n"));
     }
 
-    void divisors_are_multiplied_up_to_a_gap_sorted_on_either_side_of_it_and_listed()
-    {
-        reglas::Divisores divisors{5, 3, 2, 0, 7, 2, 1, -4, 11};
-        QCOMPARE(Producto(divisors).Valor(), 30);
-        Ordenar(divisors);
-        QVERIFY(divisors == (reglas::Divisores{2, 3, 5, 0, 2, 7, 1, -4, 11}));
-        QCOMPARE(Lista(divisors), "2, 3, 5, 2, 7, 11");
-        divisors.fill(2);
-        QCOMPARE(Lista({}), "");
-        QCOMPARE(Producto({}).Valor(), 1);
-        QVERIFY_THROWS_EXCEPTION(Desbordamiento, Producto(divisors)); // 2 to the fifteenth is one too many
-        divisors.back() = 0;
-        QCOMPARE(Producto(divisors).Valor(), 16384);
-    }
-
-    void every_value_has_its_decomposition()
-    {
-        for (int value = -5; value <= 32767; ++value) {
-            int product = 1;
-            int last = 2;
-            for (const auto& [dividend, divisor] : Descomponer(value)) {
-                QCOMPARE(dividend, value / product);
-                QVERIFY(divisor >= last && dividend % divisor == 0);
-                for (int d = 2; d * d <= divisor; ++d) {
-                    QVERIFY(divisor % d != 0);
-                }
-                last = divisor;
-                product *= divisor;
-            }
-            QCOMPARE(product, std::max(value, 1));
-        }
-    }
-
     void the_ladder_of_a_value_is_as_told()
     {
         const auto ladder = [](int value) { return QString::fromStdU16String(EscaleraDe(value)); };
@@ -249,22 +229,6 @@ private slots:
             }
             QCOMPARE(Divisors(EscaleraDe(value).c_str()), expected);
         }
-    }
-
-    void the_primes_are_all_those_below_a_thousand()
-    {
-        std::vector<int> primes;
-        for (int candidate = 2; candidate < 1000; ++candidate) {
-            bool prime = true;
-            for (int d = 2; d < candidate; ++d) {
-                prime = prime && candidate % d != 0;
-            }
-            if (prime) {
-                primes.push_back(candidate);
-            }
-        }
-        QCOMPARE(std::vector<int>(Primos.begin(), Primos.end()), primes);
-        QCOMPARE(primes.size(), std::size_t{168});
     }
 };
 

@@ -16,6 +16,7 @@
 #include <QTime>
 
 #include <memory>
+#include <vector>
 
 namespace support {
 
@@ -45,6 +46,7 @@ protected:
         QVERIFY(!m_form);
         m_ear.reset();
         numeros::FijarSemilla({});
+        numeros::SustituirSorteo({});
         QVERIFY(QApplication::topLevelWidgets().isEmpty());
     }
 
@@ -82,6 +84,24 @@ protected:
     {
         m_form->activateWindow();
         QVERIFY(WaitActive(*m_form));
+    }
+
+    // Has a seed draw `count` exercises, by the screen and by the rule that is to be its own: `show` tells what is on
+    // view, `rule` what should be.
+    template <class Rule, class Show>
+    void VerifyDraws(int count, Rule rule, Show show) const
+    {
+        numeros::FijarSemilla(99);
+        numeros::Sembrar(0);
+        std::vector<std::decay_t<decltype(rule())>> drawn;
+        for (int i = 0; i < count; ++i) {
+            drawn.push_back(rule());
+        }
+        numeros::Sembrar(0);
+        for (const auto& exercise : drawn) {
+            Continue();
+            QCOMPARE(show(), exercise);
+        }
     }
 
     // Screens that take their seed from the timer open with different exercises.
