@@ -53,6 +53,15 @@ function(kelvora_test name)
     kelvora_inprocess(${name})
 endfunction()
 
+# The same of every tst_*.cpp of the calling folder.
+function(kelvora_tests)
+    file(GLOB sources CONFIGURE_DEPENDS RELATIVE ${CMAKE_CURRENT_SOURCE_DIR} tst_*.cpp)
+    foreach(source ${sources})
+        cmake_path(REMOVE_EXTENSION source OUTPUT_VARIABLE name)
+        kelvora_test(${name} ${ARGN})
+    endforeach()
+endfunction()
+
 # What each test on a desktop finds in its environment, and which programs have to be built before. They are the target
 # `desktop`.
 function(kelvora_desktop_program name variable)

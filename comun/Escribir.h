@@ -1,5 +1,5 @@
-// Writing into boxes. A text for the ear that comes again is made another one: a reader would say nothing of a box that
-// stays as it is.
+// Writing into boxes. A text for the ear that comes again is made another one: a screen reader would say nothing of a
+// box that stays as it is.
 #pragma once
 
 #include "ControlArray.h"

@@ -17,7 +17,6 @@ namespace {
 using enum ui::Kind;
 using ui::Alignment;
 using ui::Checking;
-using ui::Color;
 using ui::Coloring;
 using ui::KeyResult;
 using ui::Speaking;

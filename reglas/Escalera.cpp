@@ -67,7 +67,8 @@ Escalera::Efecto Escalera::Pulsar(int caracter)
     case escape:
         return Efecto::Ajeno;
     default:
-        return caracter < ' ' && caracter != enter ? Efecto::Negado : Escribir(static_cast<char16_t>(caracter));
+        return caracter < int{u' '} && caracter != int{enter} ? Efecto::Negado
+                                                              : Escribir(static_cast<char16_t>(caracter));
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include "Azar.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <utility>
 
@@ -87,10 +88,8 @@ std::optional<Par> SortearTerminos(int nivel)
 
 std::vector<numeros::Fraccion> Serie::Primeros(int cuantos) const
 {
-    std::vector<numeros::Fraccion> primeros;
-    for (int i = 0; i < cuantos; ++i) {
-        primeros.push_back(Termino(i));
-    }
+    std::vector<numeros::Fraccion> primeros(static_cast<std::size_t>(cuantos));
+    std::ranges::generate(primeros, [this, i = 0]() mutable { return Termino(i++); });
     return primeros;
 }
 

@@ -8,27 +8,27 @@ new_debian() {
     shift 2
     kept=$cache/debian/$suite-$(echo "${DEBIAN_MIRROR:-} $*" | sha256sum | cut -c1-12)
     mkdir -p "$cache/debian" "$(dirname "$folder")"
-    exec {lock}>"$kept.lock" && flock "$lock" || fail "no se puede escribir en $cache"
+    exec {lock}>"$kept.lock" && flock "$lock" || fail "cannot write to $cache"
     if [ -z "$(find "$kept" -maxdepth 0 -mtime -7 2>/dev/null)" ]; then
         find "$cache/debian" -mindepth 1 -maxdepth 1 -mtime +7 -exec rm -rf --one-file-system {} +
         rm -rf --one-file-system "$kept" "$kept.new"
         log=$(mktemp)
         if [ $# -eq 0 ]; then
-            echo "Instalando Debian $suite"
+            echo "Installing Debian $suite"
             need debootstrap
             debootstrap --variant=minbase "$suite" "$kept.new" ${DEBIAN_MIRROR:+"$DEBIAN_MIRROR"} >"$log" 2>&1 </dev/null
         else
             new_debian "$suite" "$kept.new"
-            echo "Instalando en Debian $suite: $*"
+            echo "Installing in Debian $suite: $*"
             (in_debian "$kept.new" sh -c 'apt-get update && apt-get install -y --no-install-recommends "$@" && apt-get clean' \
                 sh "$@") >"$log" 2>&1
-        fi || fail "no se ha podido instalar Debian $suite (detalles en $log)"
+        fi || fail "could not install Debian $suite ($log)"
         rm -f "$log"
         touch "$kept.new"
         mv "$kept.new" "$kept"
     fi
     rm -rf --one-file-system "$folder.new"
-    cp -a --reflink=auto "$kept" "$folder.new" && mv "$folder.new" "$folder" || fail "no se ha podido copiar a $folder"
+    cp -a --reflink=auto "$kept" "$folder.new" && mv "$folder.new" "$folder" || fail "could not copy to $folder"
     exec {lock}>&-
 }
 
@@ -36,7 +36,7 @@ new_debian() {
 # own and end with it, so that nothing of this machine is left in the folder. What is compiled there is kept here where
 # the system has the folder for it.
 in_debian() {
-    cache=$cache unshare --mount --pid --fork --kill-child bash -s -- "$@" <<'INSIDE' || fail "ha fallado en $1: ${*:2}"
+    cache=$cache unshare --mount --pid --fork --kill-child bash -s -- "$@" <<'INSIDE' || fail "has failed in $1: ${*:2}"
 folder=$1
 shift
 # A mount of its own, or nobody in there could have further ones.
@@ -52,5 +52,5 @@ INSIDE
 # copy_tree FOLDER: copies this tree into that system.
 copy_tree() {
     mkdir -p "$1/kelvora"
-    (set -o pipefail && tar -c --exclude=./build --exclude=./.git . | tar -x -C "$1/kelvora") || fail "no se ha podido copiar a $1"
+    (set -o pipefail && tar -c --exclude=./build --exclude=./.git . | tar -x -C "$1/kelvora") || fail "could not copy to $1"
 }

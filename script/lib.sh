@@ -8,6 +8,11 @@ folders=($(sed -n 's/^add_subdirectory(\(.*\))$/\1/p' CMakeLists.txt))
 cache=${XDG_CACHE_HOME:-${HOME:-/nonexistent}/.cache}/kelvora
 mkdir -p "$cache" 2>/dev/null || cache=$(mktemp -d)
 
+# says SPANISH ENGLISH: what a script says. One that a user runs sets language=es before it reads this file.
+says() {
+    if [ "${language:-en}" = es ]; then printf '%s' "$1"; else printf '%s' "$2"; fi
+}
+
 fail() {
     printf 'kelvora: %s\n' "$*" >&2
     exit 1
@@ -23,21 +28,21 @@ as_root() {
 
 # need PACKAGE...: installs what is missing of Debian's packages. Scripts beside each other do so one after another.
 need() {
-    command -v dpkg-query >/dev/null || fail "este programa instala sus dependencias solo en Debian 12 o posterior"
+    command -v dpkg-query >/dev/null || fail "$(says "este programa instala sus dependencias solo en Debian 12 o posterior" "packages are installed on Debian 12 or later only")"
     local missing=() package log lock
-    exec {lock}</var/lib/dpkg && flock "$lock" || fail "no se puede leer /var/lib/dpkg"
+    exec {lock}</var/lib/dpkg && flock "$lock" || fail "$(says "no se puede leer" "cannot read") /var/lib/dpkg"
     for package in "$@"; do
         is_installed "$package" || missing+=("$package")
     done
     if [ ${#missing[@]} -gt 0 ]; then
         [ "$(id -u)" -eq 0 ] || command -v sudo >/dev/null ||
-            fail "faltan paquetes y para instalarlos se necesita ser root o tener sudo: ${missing[*]}"
-        echo "Instalando: ${missing[*]}"
+            fail "$(says "faltan paquetes y para instalarlos se necesita ser root o tener sudo" "packages are missing, and installing them needs root or sudo"): ${missing[*]}"
+        echo "$(says Instalando Installing): ${missing[*]}"
         log=$(mktemp)
         as_root apt-get update >"$log" 2>&1 &&
             as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y --no-install-recommends "${missing[@]}" \
                 >>"$log" 2>&1 </dev/null ||
-            fail "no se ha podido instalar: ${missing[*]} (detalles en $log)"
+            fail "$(says "no se ha podido instalar" "could not install"): ${missing[*]} ($log)"
         rm -f "$log"
     fi
     exec {lock}>&-
@@ -59,13 +64,13 @@ build() {
     local preset=$1 log lock
     shift
     mkdir -p build
-    exec {lock}>"build/$preset.lock" && flock "$lock" || fail "no se puede escribir en build"
+    exec {lock}>"build/$preset.lock" && flock "$lock" || fail "$(says "no se puede escribir en" "cannot write to") build"
     if command -v ccache >/dev/null; then
         export CMAKE_CXX_COMPILER_LAUNCHER=ccache CCACHE_DIR=$cache/ccache CCACHE_BASEDIR=$PWD CCACHE_NOHASHDIR=1
     fi
     log=build/$preset.log
     { [ -f "build/$preset/build.ninja" ] || cmake --preset "$preset"; } >"$log" 2>&1 &&
         cmake --build --preset "$preset" ${1:+--target "$@"} >>"$log" 2>&1 ||
-        { tail -n 40 "$log" >&2; fail "la compilación ha fallado (todo en $log)"; }
+        { tail -n 40 "$log" >&2; fail "$(says "la compilación ha fallado" "the build has failed") ($log)"; }
     exec {lock}>&-
 }

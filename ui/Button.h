@@ -28,7 +28,8 @@ public:
     // Beeps and says the name: pressing the button has changed nothing.
     void Refuse() const;
 
-    // Says the new name, where a reader does not read it by itself, and `more`: pressing the button has changed both.
+    // Says the new name, where a screen reader does not read it by itself, and `more`: pressing the button has changed
+    // both.
     void SayWith(std::string_view more) const;
 
     // Puts the focus on the button and presses it, at once.
@@ -54,7 +55,7 @@ private:
 
     FaceButton& m_button;
     std::string m_accessibleName;
-    std::string m_name; // that a reader finds
+    std::string m_name; // that a screen reader finds
 };
 
 } // namespace ui

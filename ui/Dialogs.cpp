@@ -60,7 +60,7 @@ QMessageBox::StandardButton Show(QMessageBox::Icon icon, std::string_view title,
         box.setDefaultButton(QMessageBox::Yes); // some desktops have "No" first, and the focus would be there
         box.setEscapeButton(QMessageBox::No);
     }
-    if (!said.isEmpty()) { // what the screen has just said is heard before the box's text
+    if (screen != nullptr && !said.isEmpty()) { // what the screen has just said is heard before the box's text
         SayBeforeBox(box, *screen, said);
     }
     const HeldEnter ignored(box);

@@ -168,8 +168,8 @@ KeyResult Form::FormWindow::Handle(QObject* watched, QEvent& event)
     }
     if (IsFocusMove(event)) {
         m_lockedIsSaid = false;
-        // The reader learns of the focus first: a box that is told of before is taken for the one in focus, and its
-        // focus for no news.
+        // The screen reader learns of the focus first: a box that is told of before is taken for the one in focus, and
+        // its focus for no news.
         Silently([&] { event.type() == QEvent::FocusIn ? control->GotFocus() : control->Validate(); });
     }
     if (auto* button = dynamic_cast<Button*>(control); button != nullptr && event.type() == QEvent::Shortcut) {

@@ -143,8 +143,6 @@ private slots:
         }
     }
 
-    void initTestCase() { QCOMPARE(Given().size(), static_cast<qsizetype>(Windows().size())); }
-
     void init()
     {
         QFETCH_GLOBAL(QJsonObject, given);

@@ -7,7 +7,6 @@
 #include <array>
 #include <set>
 
-using numeros::Fraccion;
 using reglas::Ordenacion;
 
 namespace {

@@ -31,7 +31,7 @@ void ForAllDraws(std::size_t most, Rule rule)
         });
         try {
             rule();
-        } catch (const TooMany&) { // the rule goes on drawing
+        } catch (const TooMany&) { // NOLINT(bugprone-empty-catch): the rule goes on drawing
         }
         while (!draws.empty() && draws.back().drawn == draws.back().count - 1) {
             draws.pop_back();

@@ -94,6 +94,7 @@ protected:
         numeros::FijarSemilla(99);
         numeros::Sembrar(0);
         std::vector<std::decay_t<decltype(rule())>> drawn;
+        drawn.reserve(count);
         for (int i = 0; i < count; ++i) {
             drawn.push_back(rule());
         }

@@ -92,10 +92,10 @@ private slots:
     void enter_answers_yes_in_whatever_order_the_desktop_has_the_buttons_data()
     {
         QTest::addColumn<int>("layout");
-        QTest::addRow("Windows") << int(QDialogButtonBox::WinLayout);
-        QTest::addRow("macOS") << int(QDialogButtonBox::MacLayout);
-        QTest::addRow("KDE") << int(QDialogButtonBox::KdeLayout);
-        QTest::addRow("GNOME") << int(QDialogButtonBox::GnomeLayout);
+        QTest::addRow("Windows") << static_cast<int>(QDialogButtonBox::WinLayout);
+        QTest::addRow("macOS") << static_cast<int>(QDialogButtonBox::MacLayout);
+        QTest::addRow("KDE") << static_cast<int>(QDialogButtonBox::KdeLayout);
+        QTest::addRow("GNOME") << static_cast<int>(QDialogButtonBox::GnomeLayout);
     }
     void enter_answers_yes_in_whatever_order_the_desktop_has_the_buttons()
     {

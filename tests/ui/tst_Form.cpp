@@ -76,7 +76,7 @@ private slots:
     {
         Open();
         for (const ui::ControlDesign& design : sample::controls) {
-            const QString name = QString::fromUtf8(design.name.data(), qsizetype(design.name.size())) +
+            const QString name = QString::fromUtf8(design.name.data(), static_cast<qsizetype>(design.name.size())) +
                                  (design.index < 0 ? QString() : QString("(%1)").arg(design.index));
             if (design.inside.empty()) { // inside a box, edges may be rounded into it
                 QCOMPARE(Child<QWidget>(*m_window, name).geometry(), ui::ToPixels(design.place, 1));

@@ -12,7 +12,7 @@ namespace ui {
 // focus is. To be called once, before that window.
 void SetUpAccessibility();
 
-// What a reader is to take the widget for; a plain one is called a filler. To be called before anybody asks.
+// What a screen reader is to take the widget for; a plain one is called a filler. To be called before anybody asks.
 void SetRole(QWidget& widget, QAccessible::Role role);
 
 // Sends `text` to the screen reader as a message of `source`, at once. Screens speak through the Announcer instead.

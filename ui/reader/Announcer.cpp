@@ -75,7 +75,7 @@ void Announcer::EventEnded(QEvent::Type type)
     case QEvent::InputMethodQuery:
         break; // parts of a focus change
     case QEvent::FocusIn:
-        // The focus event that the reader gets is sent right after this one: what waits to be said lets it pass.
+        // The focus event that the screen reader gets is sent right after this one: what waits to be said lets it pass.
         QMetaObject::invokeMethod(this, &Announcer::Flush, Qt::QueuedConnection);
         break;
     default:

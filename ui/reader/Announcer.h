@@ -1,7 +1,8 @@
-// Speaks through the screen reader, and only through it. A reader says nothing of a text box that a program changes, so
-// what is to be heard is announced here. Texts said during one event are joined and announced once, when all focus
-// changes of the event are over: of two messages only one would be heard, and a message before a focus change is cut
-// off by it. While the window is not the active one (a screen that opens, a message box in front) they are held back.
+// Speaks through the screen reader, and only through it. A screen reader says nothing of a text box that a program
+// changes, so what is to be heard is announced here. Texts said during one event are joined and announced once, when
+// all focus changes of the event are over: of two messages only one would be heard, and a message before a focus change
+// is cut off by it. While the window is not the active one (a screen that opens, a message box in front) they are held
+// back.
 #pragma once
 
 #include <QEvent>

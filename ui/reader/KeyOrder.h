@@ -21,7 +21,7 @@ public:
     // To be asked before an event is delivered. True: it is not to be, its turn will come.
     bool Postpones(QObject& receiver, QEvent& event);
 
-    // The turn of a key: it has come to its window, by itself or with the reader's answer.
+    // The turn of a key: it has come to its window, by itself or with the screen reader's answer.
     bool eventFilter(QObject* window, QEvent* event) override;
 
 private:
@@ -38,7 +38,7 @@ private:
     void NoteAlt(const QKeyEvent& key);
     std::optional<Key> TakeTurn(const QKeyEvent& event);
 
-    std::vector<Key> m_waiting; // a key that the reader keeps for itself stays until one behind it has its turn
+    std::vector<Key> m_waiting; // a key that the screen reader keeps for itself stays until one behind it has its turn
     bool m_isPostponed = false; // of the key press that comes next
 };
 

@@ -46,7 +46,7 @@ void LetReaderCatchUp()
 
 void OnceFocusIsTold(QWidget& widget, std::function<void()> action)
 {
-    // Qt sends the reader's event right behind that of the widget, which is being handled.
+    // Qt sends the screen reader's event right behind that of the widget, which is being handled.
     QMetaObject::invokeMethod(&widget, std::move(action), Qt::QueuedConnection);
 }
 
@@ -83,8 +83,7 @@ QWidget* FocusTrace::Unheard() const
 
 void SayBeforeBox(QMessageBox& box, QWidget& screen, const QString& said)
 {
-    auto* label = box.findChild<QLabel*>("qt_msgbox_label");
-    if (boxesCutMessagesOff && label != nullptr) {
+    if (auto* label = boxesCutMessagesOff ? box.findChild<QLabel*>("qt_msgbox_label") : nullptr) {
         label->setAccessibleName(said.trimmed() + ". " + box.text());
     } else {
         Announce(screen, said);

@@ -53,7 +53,7 @@ void MultiLineEdit::SetExactText(const QString& text)
     m_kept = text;
 }
 
-// Replaces what lies between the two texts' common beginning and end, so that the reader hears of that alone.
+// Replaces what lies between the two texts' common beginning and end, so that the screen reader hears of that alone.
 void MultiLineEdit::Edit(const QString& text, int caret)
 {
     const QString before = document()->toRawText();
