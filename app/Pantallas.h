@@ -28,28 +28,23 @@ struct Pantalla
     std::unique_ptr<ui::Form> (*crear)();
 };
 
-template <class Screen>
-std::unique_ptr<ui::Form> Crear()
-{
-    return std::make_unique<Screen>();
-}
-
 inline constexpr std::array<Pantalla, 11> pantallas = [] {
     using namespace ejercicios;
     using namespace operaciones;
     using enum ui::Modality;
+    using ui::Make;
     return std::array<Pantalla, 11>{{
-        {"FormRepresentacion", "Representación &gráfica", Modal, "Text1", Crear<FormRepresentacion>},
-        {"FormFichas", "&Expresa con fracciones", Modal, "Text1", Crear<FormFichas>},
-        {"FormCantidad", "&Fracción de una cantidad", Modal, "Text1", Crear<FormCantidad>},
-        {"FormFactores", "D&escomposición en factores primos", Modeless, "TbInstruc", Crear<FormFactores>},
-        {"FormOrdenar", "&Ordenar fracciones", Modeless, "Text1", Crear<FormOrdenar>},
-        {"FormConversion", "&Conversión al mismo denominador", Modeless, "TBInstruc", Crear<FormConversion>},
-        {"Form2", "&Suma de fracciones", Modeless, "Text1(0)", Crear<Form2>},
-        {"FormDiferencia", "&Diferencia de fracciones", Modeless, "Text1(0)", Crear<FormDiferencia>},
-        {"FormProducto", "&Producto de fracciones", Modal, "Text1(0)", Crear<FormProducto>},
-        {"FormCociente", "&Cociente de fracciones", Modal, "Text1(0)", Crear<FormCociente>},
-        {"FormSeries", "&Completa la serie", Modeless, "TbInstruc", Crear<FormSeries>},
+        {"FormRepresentacion", "Representación &gráfica", Modal, "Text1", Make<FormRepresentacion>},
+        {"FormFichas", "&Expresa con fracciones", Modal, "Text1", Make<FormFichas>},
+        {"FormCantidad", "&Fracción de una cantidad", Modal, "Text1", Make<FormCantidad>},
+        {"FormFactores", "D&escomposición en factores primos", Modeless, "TbInstruc", Make<FormFactores>},
+        {"FormOrdenar", "&Ordenar fracciones", Modeless, "Text1", Make<FormOrdenar>},
+        {"FormConversion", "&Conversión al mismo denominador", Modeless, "TBInstruc", Make<FormConversion>},
+        {"Form2", "&Suma de fracciones", Modeless, "Text1(0)", Make<Form2>},
+        {"FormDiferencia", "&Diferencia de fracciones", Modeless, "Text1(0)", Make<FormDiferencia>},
+        {"FormProducto", "&Producto de fracciones", Modal, "Text1(0)", Make<FormProducto>},
+        {"FormCociente", "&Cociente de fracciones", Modal, "Text1(0)", Make<FormCociente>},
+        {"FormSeries", "&Completa la serie", Modeless, "TbInstruc", Make<FormSeries>},
     }};
 }();
 

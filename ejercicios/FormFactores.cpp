@@ -9,8 +9,6 @@
 #include "Lectura.h"
 #include "Val.h"
 
-#include <cmath>
-
 namespace ejercicios {
 
 namespace {
@@ -156,9 +154,8 @@ void FormFactores::TbValor_GotFocus()
 // A verdict reads as 0 and gives way to the value.
 void FormFactores::Text1_Validate()
 {
-    const double numero = Text1.Number();
-    if (numero > 1 && numero < 2000) {
-        Valor = Entero16::Redondeado(numero);
+    if (const auto valor = reglas::ValorSobreVeredicto(Text1.Number())) {
+        Valor = *valor;
     } else {
         Text1.Text(Valor);
     }
@@ -171,9 +168,9 @@ void FormFactores::MnuOpcValLis_Click(int Index)
 
 void FormFactores::MnuOpcInt_Click()
 {
-    const double numero = std::abs(numeros::Val(ui::InputBox("Introduzca valor a descomponer: ", "Introducir valor")));
-    if (numero != 0 && numero <= 1000) {
-        Valor = Entero16::Redondeado(numero);
+    const std::string respuesta = ui::InputBox("Introduzca valor a descomponer: ", "Introducir valor");
+    if (const auto valor = reglas::ValorPropio(numeros::Val(respuesta))) {
+        Valor = *valor;
         TbValor.Text(Valor);
         NuevaEscalera();
         TellExercise();

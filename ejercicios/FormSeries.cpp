@@ -162,7 +162,7 @@ KeyResult FormSeries::Text2_KeyPress(int Index, int KeyAscii)
 
 void FormSeries::MnuOpcDifLis_Click(int Index)
 {
-    m_nivel = {Index / 2 + 1, Index % 2 == 1};
+    m_nivel = reglas::NivelDe(Index);
     solucionVista = false;
     Text1[PosicionHueco].SetFocus();
 }

@@ -1,6 +1,7 @@
 #include "FormOperacion.h"
 
 #include "Azar.h"
+#include "Cajas.h"
 #include "Clock.h"
 #include "Controles.h"
 #include "Dialogs.h"
@@ -184,8 +185,8 @@ std::string FormOperacion::LeerFraccion(int indice)
         TbMensajes.Text("No hay ninguna fracción seleccionada");
     } else {
         // With the reading key only a numerator of 1 is singular, on every screen: -1/2 is "menos un medios" here.
-        comun::EscribirOtraVez(TbMensajes,
-                               EnPalabras(foco->Index() / 2, {m_operacion.modo.variante, lenguaje::Singular::Uno}));
+        comun::EscribirOtraVez(TbMensajes, EnPalabras(reglas::FraccionDe(foco->Index()),
+                                                      {m_operacion.modo.variante, lenguaje::Singular::Uno}));
     }
     return {};
 }
@@ -197,7 +198,7 @@ std::string FormOperacion::EnPalabras(int fraccion, lenguaje::Modo modo) const
 
 void FormOperacion::LeerOperacion()
 {
-    std::array<double, 6> valores{};
+    std::array<double, reglas::cajasDeOperacion> valores{};
     std::ranges::transform(Text1, valores.begin(), &ui::TextBox::Number);
     const std::string signo = m_operacion.signoLeido.empty() ? Text2[0].Text() : std::string(m_operacion.signoLeido);
     TbMensajes.Text(std::string(BlancoInicial()) +
@@ -214,10 +215,10 @@ KeyResult FormOperacion::MoverDerecha()
 {
     const ui::Control* foco = ActiveControl();
     if (foco != nullptr && foco->Name() == "Text1") {
-        return MoverA((foco->Index() + 2) % Text1.Count());
+        return MoverA(reglas::CajaALaDerecha(foco->Index()));
     }
     if (foco != nullptr && foco->Name() == "Text2") {
-        return MoverA(2 * (foco->Index() + 1));
+        return MoverA(reglas::CajaTrasSigno(foco->Index()));
     }
     return KeyResult::Pass;
 }
@@ -226,10 +227,10 @@ KeyResult FormOperacion::MoverIzquierda()
 {
     const ui::Control* foco = ActiveControl();
     if (foco != nullptr && foco->Name() == "Text1") {
-        return MoverA((foco->Index() + Text1.Count() - 2) % Text1.Count());
+        return MoverA(reglas::CajaALaIzquierda(foco->Index()));
     }
     if (foco != nullptr && foco->Name() == "Text2") {
-        return MoverA(2 * foco->Index());
+        return MoverA(reglas::CajaAnteSigno(foco->Index()));
     }
     return KeyResult::Pass;
 }

@@ -3,6 +3,7 @@
 #include "Primos.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace reglas {
 
@@ -66,6 +67,17 @@ std::string ListaConAsteriscos(const Divisores& divisores)
     }
     // The last asterisk goes with one of its two blanks; the other one stays.
     return lista.substr(0, lista.size() - std::min<std::size_t>(lista.size(), 2));
+}
+
+std::optional<Entero16> ValorPropio(double numero)
+{
+    const double valor = std::abs(numero);
+    return valor > 0 && valor <= 1000 ? std::optional(Entero16::Redondeado(valor)) : std::nullopt;
+}
+
+std::optional<Entero16> ValorSobreVeredicto(double numero)
+{
+    return numero > 1 && numero < 2000 ? std::optional(Entero16::Redondeado(numero)) : std::nullopt;
 }
 
 std::optional<std::string> Objecion(const Divisores& divisores, Entero16 valor)

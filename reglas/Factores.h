@@ -37,6 +37,12 @@ struct Division
 // The divisions by the smallest prime factor that lead from `valor` to 1, none for a value below 2.
 std::vector<Division> Descomponer(numeros::Entero16 valor);
 
+// The value that a pupil wants to decompose, without its sign; nothing for 0, and beyond 1000.
+std::optional<numeros::Entero16> ValorPropio(double numero);
+
+// The value that is written over a verdict; nothing for 1 and below, and from 2000 on.
+std::optional<numeros::Entero16> ValorSobreVeredicto(double numero);
+
 // Why these divisors are not the prime factors of `valor`, as the pupil is told; nothing where they are, in whatever
 // order. Throws Desbordamiento where their product does not fit 16 bits.
 std::optional<std::string> Objecion(const Divisores& divisores, numeros::Entero16 valor);

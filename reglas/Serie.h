@@ -36,6 +36,12 @@ struct Nivel
     bool esB = false;
 };
 
+// The level by its place in the list of all: 1A, 1B, 2A and so on, from 0.
+constexpr Nivel NivelDe(int lugar)
+{
+    return {lugar / 2 + 1, lugar % 2 == 1};
+}
+
 // How many terms of the series are shown, before the one that is missing.
 int TerminosMostrados(const Nivel& elegido);
 

@@ -180,4 +180,11 @@ private:
     std::vector<Control*> m_tabStops;
 };
 
+// A screen that is not open yet.
+template <class Screen>
+std::unique_ptr<Form> Make()
+{
+    return std::make_unique<Screen>();
+}
+
 } // namespace ui

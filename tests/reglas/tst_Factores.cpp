@@ -4,6 +4,7 @@
 #include <QTest>
 
 #include <algorithm>
+#include <cmath>
 
 using namespace reglas;
 using numeros::Desbordamiento;
@@ -111,6 +112,23 @@ private slots:
     }
 
     void a_product_beyond_16_bits_is_none() { QVERIFY_THROWS_EXCEPTION(Desbordamiento, Objecion(Of({256, 128}), 2)); }
+
+    void values_of_ones_own_go_up_to_a_thousand()
+    {
+        using numeros::Entero16;
+        QCOMPARE(ValorPropio(12), Entero16(12));
+        QCOMPARE(ValorPropio(-12.5), Entero16(12));
+        QCOMPARE(ValorPropio(0.2), Entero16(0));
+        QCOMPARE(ValorPropio(1000), Entero16(1000));
+        for (const double none : {0.0, 1000.1, -1000.1, 1e300, std::nan("")}) {
+            QCOMPARE(ValorPropio(none), std::nullopt);
+        }
+        QCOMPARE(ValorSobreVeredicto(1.5), Entero16(2));
+        QCOMPARE(ValorSobreVeredicto(1999.9), Entero16(2000));
+        for (const double none : {1.0, 0.0, -3.0, 2000.0, std::nan("")}) {
+            QCOMPARE(ValorSobreVeredicto(none), std::nullopt);
+        }
+    }
 
     void primes_are_found_by_trial()
     {

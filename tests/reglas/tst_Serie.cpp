@@ -191,6 +191,16 @@ private slots:
         QCOMPARE(seen, drawn);
     }
 
+    void levels_are_listed_from_the_easiest_on()
+    {
+        QStringList listed;
+        for (int place = 0; place < 8; ++place) {
+            const Nivel one = reglas::NivelDe(place);
+            listed += QString::number(one.nivel) + (one.esB ? "B" : "A");
+        }
+        QCOMPARE(listed, QStringList({"1A", "1B", "2A", "2B", "3A", "3B", "4A", "4B"}));
+    }
+
     void the_chosen_level_says_how_many_terms_are_shown()
     {
         for (int level = 1; level <= 4; ++level) {

@@ -20,12 +20,6 @@
 
 namespace support {
 
-template <class Form>
-std::unique_ptr<ui::Form> Make()
-{
-    return std::make_unique<Form>();
-}
-
 class Screen
 {
 protected:

@@ -20,7 +20,7 @@ struct Window
 inline const std::vector<Window>& Windows()
 {
     static const std::vector<Window> windows = [] {
-        std::vector<Window> all{{"Form1", app::Crear<app::Form1>}};
+        std::vector<Window> all{{"Form1", ui::Make<app::Form1>}};
         for (const app::Pantalla& pantalla : app::pantallas) {
             all.push_back({QString::fromLatin1(pantalla.nombre), pantalla.crear});
         }

@@ -69,7 +69,7 @@ constexpr void CheckNames(std::span<const ControlDesign> table)
             if (j > i && table[j].name == table[i].name && table[j].index == table[i].index) {
                 Wrong("two controls have one name and index");
             }
-            if (IsObjectName(table[j].inside, table[i]) && (j < i || !holds)) {
+            if ((j < i || !holds) && IsObjectName(table[j].inside, table[i])) {
                 Wrong("what holds a control comes after it, or is no frame or picture box");
             }
         }
@@ -80,29 +80,28 @@ constexpr void CheckNames(std::span<const ControlDesign> table)
     }
 }
 
-constexpr const ControlDesign* AtTab(std::span<const ControlDesign> table, int tab)
+constexpr bool HasTab(std::span<const ControlDesign> table, int tab)
 {
-    const auto found = std::ranges::find(table, tab, &ControlDesign::tab);
-    return found == table.end() ? nullptr : &*found;
+    return std::ranges::count(table, tab, &ControlDesign::tab) == 1;
 }
 
 constexpr void CheckTabs(std::span<const ControlDesign> table)
 {
-    const auto stops = static_cast<int>(
-        std::ranges::count_if(table, [](const ControlDesign& control) { return control.tab != noTab; }));
-    for (int tab = 0; tab < stops; ++tab) {
-        const ControlDesign* stop = AtTab(table, tab);
-        if (stop == nullptr) {
-            Wrong("a tab number is there twice or left out");
-            return;
+    int stops = 0;
+    for (const ControlDesign& stop : table) {
+        if (stop.tab == noTab) {
+            continue;
         }
-        if (stop->accessibleName.empty() && (!HasCaption(stop->kind) || stop->text.empty())) {
+        if (!HasTab(table, stops++)) {
+            Wrong("a tab number is there twice or left out");
+        }
+        if (stop.accessibleName.empty() && (!HasCaption(stop.kind) || stop.text.empty())) {
             Wrong("a tab stop has no caption and no accessible name");
         }
-        if (stop->kind == Kind::Frame || stop->kind == Kind::Picture || stop->kind == Kind::Line) {
+        if (stop.kind == Kind::Frame || stop.kind == Kind::Picture || stop.kind == Kind::Line) {
             Wrong("a tab stop is nothing to stop at");
         }
-        if (stop->kind == Kind::Label && AtTab(table, tab + 1) == nullptr) {
+        if (stop.kind == Kind::Label && !HasTab(table, stop.tab + 1)) {
             Wrong("a label with a place in the tab order leads nowhere");
         }
     }

@@ -1,5 +1,5 @@
-// Accessibility for Qt before 6.8, which Debian 12 has: announcements without an event of their own. Goes when the
-// oldest Qt that is supported does.
+// Announcements for Qt before 6.8, which has no event for them; Debian 12 has Qt 6.4. A screen reader tells a
+// notification that appears: here is one that nobody sees. To be taken out with the support of such a Qt.
 #pragma once
 
 #include <QString>
