@@ -28,12 +28,12 @@ struct Pantalla
     std::unique_ptr<ui::Form> (*crear)();
 };
 
-inline constexpr std::array<Pantalla, 11> pantallas = [] {
+inline constexpr auto pantallas = [] {
     using namespace ejercicios;
     using namespace operaciones;
     using enum ui::Modality;
     using ui::Make;
-    return std::array<Pantalla, 11>{{
+    return std::to_array<Pantalla>({
         {"FormRepresentacion", "Representación &gráfica", Modal, "Text1", Make<FormRepresentacion>},
         {"FormFichas", "&Expresa con fracciones", Modal, "Text1", Make<FormFichas>},
         {"FormCantidad", "&Fracción de una cantidad", Modal, "Text1", Make<FormCantidad>},
@@ -45,7 +45,7 @@ inline constexpr std::array<Pantalla, 11> pantallas = [] {
         {"FormProducto", "&Producto de fracciones", Modal, "Text1(0)", Make<FormProducto>},
         {"FormCociente", "&Cociente de fracciones", Modal, "Text1(0)", Make<FormCociente>},
         {"FormSeries", "&Completa la serie", Modeless, "TbInstruc", Make<FormSeries>},
-    }};
+    });
 }();
 
 } // namespace app

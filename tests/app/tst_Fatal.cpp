@@ -54,8 +54,8 @@ private slots:
         QCOMPARE(program.exitStatus(), QProcess::NormalExit);
         QCOMPARE(program.exitCode(), told.isEmpty() ? 0 : 1);
         const QString said = QString::fromUtf8(program.readAllStandardError().replace("\r\n", "\n"));
-        QVERIFY2(said.endsWith(told), qPrintable(said)); // where the desktop lacks something Qt tells that before
-        QCOMPARE(said.contains("no such control"), !told.isEmpty());
+        // Where the desktop lacks something Qt tells that before.
+        QVERIFY2(told.isEmpty() ? !said.contains("no such") : said.endsWith(told), qPrintable(said));
     }
 };
 

@@ -11,10 +11,6 @@ CHARACTERS = {" ": "espacio", "|": "barra vertical" if OLD else "|"}
 NUMBER = re.compile(r"(\d+)\.?")  # the content of a box that is not known
 
 
-SCORE = "F4 dice el marcador."
-REPEAT_AND_SCORE = f"F3 repite el ejercicio. {SCORE}"
-
-
 class ExerciseLesson(Lesson):
     name = title = None
 
@@ -24,6 +20,12 @@ class ExerciseLesson(Lesson):
         match = self.hear_match(reading)
         self.expect_window(self.title, self.first_stop(), said(match.group()))
         return match
+
+    def first_stop(self):
+        """The instruction: its first row, and the keys."""
+        window, = (window for window in GIVEN if window["title"] == self.title)
+        stop = min((control for control in window["controls"] if "tab" in control), key=lambda control: control["tab"])
+        return locked(stop["says"], stop["text"].split("\n")[0]) + [stop["keys"]]
 
     def hear_match(self, reading):
         """Waits for a text that fits `reading`, with or without the stop of a sentence."""
@@ -40,9 +42,6 @@ class ExerciseLesson(Lesson):
 class Cantidad(ExerciseLesson):
     name, title = "Fracción de una cantidad", "Fracción de una cantidad"
     reading = r"(\w+) (\w+?)s?  de (\w+(?: y \w+)?)"
-
-    def first_stop(self):
-        return locked("Instrucciones", "CALCULA") + [SCORE]
 
     def result(self, match):
         numerator, part, quantity = match.groups()
@@ -102,9 +101,6 @@ class Representacion(ExerciseLesson):
     name, title = "Representación gráfica", "Representación gráfica de fracciones"
     reading = r"(\w+) (\w+?)(s?)"
 
-    def first_stop(self):
-        return locked("Instrucciones", "Escribe el número de partes a realizar y colorea las ") + [SCORE]
-
     def numbers(self, match):
         numerator = 1 if match[1] == "uno" else CARDINALS.index(match[1])
         return numerator, PARTS.index(match[2])
@@ -153,7 +149,7 @@ class Fichas(ExerciseLesson):
         # The first row of the instruction, as far as it goes in the type that there is.
         rows = [text for text in self.session.heard_so_far() if text.startswith("Expresa con una fracción ")]
         self.assertIn(rows[-1].removesuffix(".").strip(), "Expresa con una fracción la parte que representa cada color")
-        return locked("Instrucciones", rows[-1].removesuffix(".")) + [f"L repite el ejercicio. {SCORE}"]
+        return locked("Instrucciones", rows[-1].removesuffix(".")) + ["L repite el ejercicio. F4 dice el marcador."]
 
     def answer(self, match):
         """Fills the six boxes from the first one on."""
@@ -183,9 +179,6 @@ class Fichas(ExerciseLesson):
 class Ordenar(ExerciseLesson):
     name, title = "Ordenar fracciones", "Ordenar fracciones"
     reading = ", ".join([r"\w+ \w+"] * 4)
-
-    def first_stop(self):
-        return locked("Instrucciones", "Ordena estas fracciones de menor a mayor") + ["F3 repite el ejercicio."]
 
     @staticmethod
     def row(match):
@@ -270,9 +263,6 @@ class Series(ExerciseLesson):
     name, title = "Completa la serie", "Completa la serie"
     reading = r"(\w+(?: y \w+)? \w+(?: y \w+)?, )+\w+(?: y \w+)? \w+(?: y \w+)?; falta el término (\d)"
 
-    def first_stop(self):
-        return locked("Instrucciones", "Completa la serie") + [REPEAT_AND_SCORE]
-
     @staticmethod
     def next_term(match):
         """What comes next after the terms told, whose numerators and denominators each have one step."""
@@ -335,9 +325,6 @@ class Factores(ExerciseLesson):
 
     def ladder(self, row):
         return ["Escalera texto.", row]
-
-    def first_stop(self):
-        return locked("Instrucciones", "Realiza la descomposición en factores primos") + [REPEAT_AND_SCORE]
 
     @staticmethod
     def value(match):
