@@ -1,9 +1,10 @@
 # Every folder of the house is one library. Its include path is its own folder and, through the libraries that it
-# links, theirs: a header of a folder that is not linked is not found. What it links as PRIVATE its own users do not find.
+# links, theirs: a header of a folder that is not linked is not found. What it links as PRIVATE its own users do not find,
+# and where it has a FACE they find that part of it alone.
 function(kelvora_library name)
-    cmake_parse_arguments(ARG "" "" "SOURCES;LINK;PRIVATE" ${ARGN})
+    cmake_parse_arguments(ARG "" "FACE" "SOURCES;LINK;PRIVATE" ${ARGN})
     add_library(${name} STATIC ${ARG_SOURCES})
-    target_include_directories(${name} PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
+    target_include_directories(${name} PUBLIC ${CMAKE_CURRENT_SOURCE_DIR}/${ARG_FACE} PRIVATE ${CMAKE_CURRENT_SOURCE_DIR})
     target_link_libraries(${name} PUBLIC ${ARG_LINK} PRIVATE ${ARG_PRIVATE})
     kelvora_warnings(${name})
 endfunction()

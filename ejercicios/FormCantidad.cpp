@@ -74,12 +74,7 @@ constexpr ui::ControlDesign controles[]{
      .speaking = Speaking::Spoken,
      .coloring = Coloring::Selection},
     comun::Hecho({1750, 3200, 1500, 495}, 8),
-    {.name = "Text7",
-     .accessibleName = "Mensajes",
-     .place = {1500, 3900, 2000, 495},
-     .tab = 9,
-     .speaking = Speaking::Spoken,
-     .coloring = Coloring::Selection},
+    comun::Mensajes("Text7", {1500, 3900, 2000, 495}, 9),
     comun::BotonContinuar({1750, 4600, 1500, 500}, 10),
     comun::BotonBorrar({125, 4600, 1500, 500}, 11),
     comun::BotonVerSolucion({3375, 4600, 1500, 500}, 12),
@@ -180,7 +175,7 @@ void FormCantidad::MnuOpcLee_Click()
 void FormCantidad::MnuOpcFrac_Click()
 {
     constexpr std::string_view titulo = "Introducir fracción";
-    auto& [Numerador, Denominador, Cantidad] = m_ejercicio;
+    const auto& [Numerador, Denominador, Cantidad] = m_ejercicio;
     const auto numerador = comun::PedirValor("Introduzca el numerador de la fracción:", titulo, Numerador, 0);
     if (!numerador) {
         return;
@@ -194,7 +189,7 @@ void FormCantidad::MnuOpcFrac_Click()
 void FormCantidad::MnuOpcCan_Click()
 {
     constexpr std::string_view titulo = "Introducir cantidad";
-    auto& [Numerador, Denominador, Cantidad] = m_ejercicio;
+    const auto& [Numerador, Denominador, Cantidad] = m_ejercicio;
     const auto cantidad = comun::PedirValor("Introduzca la cantidad:", titulo, Cantidad, 0);
     if (cantidad && ConfirmarDivision({Numerador, Denominador, *cantidad}, titulo)) {
         Proponer({Numerador, Denominador, *cantidad});

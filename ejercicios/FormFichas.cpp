@@ -6,8 +6,6 @@
 #include "Filas.h"
 #include "Keys.h"
 
-#include <algorithm>
-
 namespace ejercicios {
 
 namespace {
@@ -15,7 +13,6 @@ namespace {
 using enum ui::Kind;
 using ui::Alignment;
 using ui::Color;
-using ui::Coloring;
 using ui::KeyResult;
 using ui::Speaking;
 using ui::Typing;

@@ -231,7 +231,7 @@ void FormSeries::VerSolucion()
     Tell(lenguaje::FraccionEnLetras({numerador, denominador}));
 }
 
-void FormSeries::Proteger(ui::TextBox& termino, const reglas::Numeros& numeros) const
+void FormSeries::Proteger(ui::TextBox& termino, const reglas::Numeros& numeros)
 {
     if (termino.Index() >= PosicionHueco) {
         return;

@@ -10,7 +10,7 @@ Form2::Form2()
 
 Operandos Form2::SortearOperandos(int limite) const
 {
-    return reglas::SortearSumandos(limite, MismoDenominador);
+    return reglas::SortearSumandos(limite, ConMismoDenominador());
 }
 
 Fraccion Form2::CalcularSolucion() const

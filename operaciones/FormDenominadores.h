@@ -10,10 +10,13 @@ class FormDenominadores : public FormOperacion
 protected:
     explicit FormDenominadores(const Operacion& operacion);
 
-    bool MismoDenominador = true;
+    // What the pupil has chosen for the next exercise.
+    bool ConMismoDenominador() const { return MismoDenominador; }
 
 private:
     void MnuOpcDenLis_Click(int Index);
+
+    bool MismoDenominador = true;
 };
 
 } // namespace operaciones

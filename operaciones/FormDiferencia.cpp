@@ -12,7 +12,7 @@ FormDiferencia::FormDiferencia()
 
 Operandos FormDiferencia::SortearOperandos(int limite) const
 {
-    return reglas::SortearResta(limite, MismoDenominador);
+    return reglas::SortearResta(limite, ConMismoDenominador());
 }
 
 Fraccion FormDiferencia::CalcularSolucion() const

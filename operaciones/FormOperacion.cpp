@@ -22,7 +22,6 @@ FormOperacion::FormOperacion(const Operacion& operacion, ui::Menus menus)
                  .keys = "F4 dice el marcador."}),
       m_operacion(operacion)
 {
-    Text2[0].Text(operacion.signo);
     OnKeyPress("Text1", &FormOperacion::Text1_KeyPress);
     OnClick("Command1", &FormOperacion::Command1_Click);
     OnClick("MnuOpcCanLis", &FormOperacion::MnuOpcCanLis_Click);
@@ -31,6 +30,7 @@ FormOperacion::FormOperacion(const Operacion& operacion, ui::Menus menus)
 
 void FormOperacion::Form_Load()
 {
+    Text2[0].Text(m_operacion.signo);
     numeros::Sembrar(ui::TimerSeed());
     NuevoEjercicio();
 }

@@ -11,7 +11,7 @@
 
 namespace operaciones {
 
-using reglas::Fraccion;
+using numeros::Fraccion;
 using reglas::Operandos;
 
 // What a screen of this kind is, as data.

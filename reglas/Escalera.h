@@ -25,8 +25,8 @@ public:
     const std::u16string& Texto() const { return m_texto; }
     int Cursor() const { return static_cast<int>(m_cursor); }
 
-    // What a key does to the text and the caret: something, or nothing where a bar is in the way. A key that the
-    // ladder does not know has no business with the text either way, or may not have any.
+    // What comes of a key: it has done what it does (at an edge of the text, nothing); it is refused, a bar being in
+    // the way, or what it would do not being for the ladder; it is none of the ladder's, but the box's own.
     enum class Efecto { Hecho, Negado, Ajeno };
 
     // A typed character takes the place of the one under the caret, be it part of a line end; only "=" takes that of a

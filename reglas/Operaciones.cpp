@@ -7,6 +7,9 @@
 
 namespace reglas {
 
+using numeros::Entero16;
+using numeros::Fraccion;
+
 namespace {
 
 // Brings two fractions over one denominator; `operar` makes of their numerators there that of the result.

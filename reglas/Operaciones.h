@@ -7,10 +7,7 @@
 
 namespace reglas {
 
-using numeros::Entero16;
-using numeros::Fraccion;
-
-using Operandos = std::array<Fraccion, 2>;
+using Operandos = std::array<numeros::Fraccion, 2>;
 
 // Four numbers from 2 to `limite`, which is 3 or more.
 Operandos SortearOperandos(int limite);
@@ -23,16 +20,16 @@ Operandos SortearResta(int limite, bool mismoDenominador);
 
 // A common multiple of two different denominators from 2 to 100: the least one, unless both share a factor 19 or 29.
 // Greater denominators get one too, though not always the least.
-Entero16 DenominadorComun(Entero16 d1, Entero16 d2);
+numeros::Entero16 DenominadorComun(numeros::Entero16 d1, numeros::Entero16 d2);
 
 // The results, not simplified: sum and difference over one denominator, that of the operands or a common one. All of
 // these throw Desbordamiento where a number exceeds 16 bits.
-Fraccion Sumar(const Operandos& operandos);
-Fraccion Restar(const Operandos& operandos);
-Fraccion Multiplicar(const Operandos& operandos);
-Fraccion Dividir(const Operandos& operandos);
+numeros::Fraccion Sumar(const Operandos& operandos);
+numeros::Fraccion Restar(const Operandos& operandos);
+numeros::Fraccion Multiplicar(const Operandos& operandos);
+numeros::Fraccion Dividir(const Operandos& operandos);
 
 // Whether a pupil's answer has the value of `solucion`. The cross product alone decides, so that 0/0 has every value.
-bool EsEquivalente(double numerador, double denominador, const Fraccion& solucion);
+bool EsEquivalente(double numerador, double denominador, const numeros::Fraccion& solucion);
 
 } // namespace reglas

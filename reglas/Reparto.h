@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Fraccion.h"
+#include "Posicion.h"
 
 #include <optional>
 
@@ -24,11 +25,6 @@ struct Rejilla
 Rejilla Repartir(int partes);
 
 // Where part `indice` lies in it, from 0.
-struct Posicion
-{
-    int columna = 0;
-    int fila = 0;
-};
 constexpr Posicion Celda(const Rejilla& rejilla, int indice)
 {
     return {indice / rejilla.filas, indice % rejilla.filas};

@@ -66,7 +66,7 @@ using Par = std::pair<Numeros, Numeros>;
 std::optional<Par> SortearTerminos(int nivel)
 {
     constexpr int conMargen = 4;
-    constexpr int sinMargen = 0; // of level 4: the screen's own way
+    constexpr int sinMargen = 0; // at level 4, where more runs come to nothing
     switch (nivel) {
     case 1: {
         const Numeros constante = Constante();

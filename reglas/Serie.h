@@ -45,7 +45,7 @@ constexpr Nivel NivelDe(int lugar)
 // How many terms of the series are shown, before the one that is missing.
 int TerminosMostrados(const Nivel& elegido);
 
-// The level that is drawn where the easier ones are wanted too: at the chosen one's own number, A alone for an A.
+// The level that is drawn where the easier ones are wanted too: with a lower number, or that of a B, either letter.
 Nivel SortearNivel(const Nivel& elegido);
 
 // A new series of that level; none where a number came out negative, which from level 3 on happens.

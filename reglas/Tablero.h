@@ -1,6 +1,8 @@
 // A board of red, yellow and green tokens, row by row: the red ones first, then the yellow ones, then the green ones.
 #pragma once
 
+#include "Posicion.h"
+
 #include <array>
 
 namespace reglas {
@@ -22,11 +24,6 @@ struct Tablero
     int Total() const { return Columnas * Filas; }
 
     // Where token `indice` lies, from 0 to Total() - 1.
-    struct Posicion
-    {
-        int columna = 0;
-        int fila = 0;
-    };
     Posicion Celda(int indice) const { return {indice % Columnas, indice / Columnas}; }
 
     // The colour of token `indice`, from 0 to Total() - 1.

@@ -1,7 +1,7 @@
 # Shared by the scripts: packages, builds and one clear line where something goes wrong. To be sourced by bash from the
 # top of the project.
 
-# Those of the program.
+# The folders of the program's source.
 folders=($(sed -n 's/^add_subdirectory(\(.*\))$/\1/p' CMakeLists.txt))
 
 # What makes the next run quicker and is never needed.

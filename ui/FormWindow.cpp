@@ -1,6 +1,5 @@
 #include "FormWindow.h"
 
-#include "Announcer.h"
 #include "Handlers.h"
 #include "KeyOrder.h"
 #include "Look.h"
@@ -9,7 +8,6 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QLayout>
-#include <QMenuBar>
 #include <QPointer>
 #include <QScreen>
 #include <QShortcutEvent>

@@ -9,9 +9,10 @@ namespace ui {
 void EndOnOverflow();
 
 // Runs a handler of a screen where Qt calls it. No exception may go on from there: Qt's functions would lose what they
-// hold. One about a number out of range ends the program.
+// hold. One about a number out of range ends the program with a message, any other one, which is a mistake of the
+// program's, at once.
 template <class Handler>
-void Run(const Handler& handler)
+void Run(const Handler& handler) noexcept
 {
     try {
         handler();

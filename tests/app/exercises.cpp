@@ -4,6 +4,7 @@
 #include "Application.h"
 #include "Azar.h"
 #include "Form1.h"
+#include "Pantallas.h"
 #include "Support.h"
 
 #include <QAbstractButton>
@@ -225,7 +226,7 @@ int main(int argc, char** argv)
     const Answers answers;
     const int exercises = QApplication::arguments().value(1, "100").toInt();
     const int only = QApplication::arguments().value(2, "-1").toInt();
-    for (int index = 0; index < 11; ++index) {
+    for (int index = 0; index < static_cast<int>(app::pantallas.size()); ++index) {
         if (only >= 0 && index != only) {
             continue;
         }

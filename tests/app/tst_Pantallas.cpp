@@ -81,6 +81,19 @@ private slots:
         QCOMPARE(written, listed);
     }
 
+    void every_screen_and_every_rule_has_its_test()
+    {
+        const QDir tests(SOURCES "/tests");
+        for (const app::Pantalla& screen : app::pantallas) {
+            const QString test = "tst_" + ToText(screen.nombre) + ".cpp";
+            QVERIFY2(tests.exists("ejercicios/" + test) || tests.exists("operaciones/" + test), qPrintable(test));
+        }
+        for (const QFileInfo& rule : QDir(SOURCES "/reglas").entryInfoList({"*.cpp"})) {
+            const QString test = "reglas/tst_" + rule.baseName() + ".cpp";
+            QVERIFY2(tests.exists(test), qPrintable(test));
+        }
+    }
+
     // Under a heading of its own, or as one of the operations.
     void the_manual_tells_of_each()
     {

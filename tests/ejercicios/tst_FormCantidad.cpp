@@ -1,3 +1,4 @@
+#include "Draws.h"
 #include "FormCantidad.h"
 #include "Screen.h"
 
@@ -135,6 +136,13 @@ private slots:
             return QString("%1/%2 de %3").arg(numerator.Valor()).arg(denominator.Valor()).arg(quantity.Valor());
         };
         VerifyDraws(20, rule, [this] { return Exercise(); });
+    }
+
+    void denominators_go_up_to_ten_until_an_option_is_chosen()
+    {
+        DrawGreatest();
+        Continue();
+        QCOMPARE(Number(1), 10);
     }
 
     void an_option_waits_for_the_next_exercise()

@@ -134,7 +134,8 @@ private slots:
         QCOMPARE(Text("TBMensajes"), message);
         Fraction(2).setFocus();
         m_ear->Take();
-        Button("Command2(0)").click(); // as a reader's own command does; the new names of the buttons are not told
+        Button("Command2(0)")
+            .click(); // as a screen reader's own command does; the new names of the buttons are not told
         QCOMPARE(m_ear->Take(), QStringList({"FOCUS Command1(0)", "SAY " + RowInWords()}));
     }
 

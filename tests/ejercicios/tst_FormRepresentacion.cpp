@@ -143,6 +143,12 @@ private slots:
 
     // The fraction
 
+    void the_first_fraction_counts()
+    {
+        Done();
+        QCOMPARE(Text("tbResultados"), "Ejercicios:  1; Errores:  1");
+    }
+
     void draws_by_its_rule()
     {
         const auto rule = [] {

@@ -143,6 +143,12 @@ private slots:
         QVERIFY(Entry("MnuOpcDifLis(0)").isChecked() && Entry("MnuOpcTipLis(0)").isChecked());
     }
 
+    void the_first_series_counts()
+    {
+        Verdict(ByTheRule("Text1"), ByTheRule("Text2"));
+        QCOMPARE(Text("tbResultados"), "Ejercicios:   1; Errores:  0.");
+    }
+
     void the_seed_is_the_time_of_day()
     {
         VerifySeedOfTheDay([] { return std::make_unique<ejercicios::FormSeries>(); },

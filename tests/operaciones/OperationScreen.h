@@ -1,6 +1,7 @@
 // What the tests of the operation screens share: exercises, answers and draws.
 #pragma once
 
+#include "Draws.h"
 #include "Operaciones.h"
 #include "Screen.h"
 
@@ -86,5 +87,8 @@ protected:
                             second.denominador.Valor()};
         };
         VerifyDraws(20, drawn, [this] { return Shown(); });
+        DrawGreatest();
+        Continue();
+        QCOMPARE(Shown()[1], limits.at(range));
     }
 };

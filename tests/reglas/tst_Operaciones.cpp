@@ -9,6 +9,7 @@
 #include <set>
 
 using namespace reglas;
+using numeros::Fraccion;
 
 namespace {
 
@@ -60,14 +61,18 @@ private slots:
     // Whatever is drawn, up to 10: each of the four values has its place, and its draw, whether it is used or not.
     void operands_of_sums_have_one_denominator_or_two()
     {
-        ForAllDraws(4, [] {
-            const Four drawn = Shown(SortearSumandos(10, true));
-            QVERIFY(AreIn(drawn, 2, 10) && drawn[1] == drawn[3]);
-        });
-        ForAllDraws(4, [] {
-            const Four drawn = Shown(SortearSumandos(10, false));
-            QVERIFY(AreIn(drawn, 2, 10) && drawn[1] != drawn[3]);
-        });
+        for (const bool same : {true, false}) {
+            int ways = 0;
+            std::set<int> values;
+            ForAllDraws(4, [&] {
+                const Four drawn = Shown(SortearSumandos(10, same));
+                QCOMPARE(drawn[1] == drawn[3], same);
+                values.insert(drawn.begin(), drawn.end());
+                ++ways;
+            });
+            QCOMPARE(ways, 9 * 9 * 9 * 9);
+            QCOMPARE(values, (std::set<int>{2, 3, 4, 5, 6, 7, 8, 9, 10}));
+        }
         QCOMPARE(Drawn({5, 6, 7, 9}, [] { return SortearSumandos(10, true); }), (Four{5, 6, 7, 6}));
         QCOMPARE(Drawn({5, 6, 7, 9}, [] { return SortearSumandos(10, false); }), (Four{5, 6, 7, 9}));
         QCOMPARE(Drawn({5, 6, 7, 6}, [] { return SortearSumandos(10, false); }), (Four{5, 6, 7, 5}));
@@ -98,15 +103,29 @@ private slots:
                  (Four{firstShown, 6, secondShown, 5}));
     }
 
+    void of_equal_numerators_the_first_is_raised_up_to_the_limit()
+    {
+        const auto drawn = [](int limit, int numerator) {
+            return Drawn({numerator, 6, numerator, 9}, [limit] { return SortearResta(limit, true); });
+        };
+        QCOMPARE(drawn(20, 15), (Four{16, 6, 15, 6}));
+        QCOMPARE(drawn(20, 20), (Four{20, 6, 20, 6}));
+        QCOMPARE(drawn(100, 99), (Four{100, 6, 99, 6}));
+        QCOMPARE(drawn(100, 100), (Four{100, 6, 100, 6}));
+    }
+
     void the_first_numerator_of_a_difference_is_the_larger_one()
     {
         for (const bool same : {true, false}) {
-            ForAllDraws(4, [same] {
+            int largest = 0;
+            ForAllDraws(4, [&largest, same] {
                 const Four drawn = Shown(SortearResta(10, same));
                 QVERIFY(drawn[0] > drawn[2] || (drawn[0] == 10 && drawn[2] == 10));
                 QVERIFY(drawn[2] >= 1 && drawn[0] <= 10);
                 QCOMPARE(drawn[1] == drawn[3], same);
+                largest = std::max(largest, drawn[0]);
             });
+            QCOMPARE(largest, 10);
         }
     }
 

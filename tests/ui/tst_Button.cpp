@@ -82,6 +82,23 @@ private slots:
         QCOMPARE(m_clicked, QStringList("Command2/0"));
     }
 
+    void says_nothing_more_where_the_focus_comes_back_from_another_window()
+    {
+        Ear ear;
+        ui::TextBox& box = m_form->All<ui::TextBox>("Text1")[0];
+        m_form->All<ui::Button>("Command2")[0].OnClick = [this](int) {
+            sample::Sample other;
+            other.Open();
+            WaitActive(*other.Window());
+            m_form->BringForward();
+            WaitActive(*m_window);
+        };
+        box.SetFocus();
+        ear.Take();
+        dynamic_cast<QAbstractButton&>(Widget("Command2(0)")).click();
+        QCOMPARE(ear.TakeSaid(), QStringList());
+    }
+
     void says_where_the_focus_is_where_pressing_it_leads_back_there()
     {
         Ear ear;
@@ -96,7 +113,7 @@ private slots:
         Press(Qt::Key_C, Qt::AltModifier);
         QCOMPARE(ear.Take(), QStringList({"FOCUS Command2(0)", "FOCUS Text1(0)", "SAY Primera caja"}));
         dynamic_cast<QAbstractButton&>(Widget("Command2(0)"))
-            .click(); // as a reader's own command does, without the focus
+            .click(); // as a screen reader's own command does, without the focus
         QCOMPARE(ear.Take(), QStringList("SAY Primera caja"));
         button.SetFocus();
         ear.Take();

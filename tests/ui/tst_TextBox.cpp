@@ -95,6 +95,15 @@ private slots:
         QCOMPARE(Lines().Text(), "a\r\nb1\r\n2");
     }
 
+    void a_held_enter_goes_on_ending_lines_in_a_box_of_several()
+    {
+        Lines().Text("");
+        Lines().SetFocus();
+        QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, {}, "\r", true);
+        QCoreApplication::sendEvent(&Lines().Widget(), &held);
+        QCOMPARE(Lines().Text(), "\r\n");
+    }
+
     void change_runs_at_once_for_another_text_and_not_for_the_same()
     {
         QStringList seen;

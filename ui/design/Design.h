@@ -1,5 +1,5 @@
-// A screen as data: its window, its controls and its menus. Form builds them. What can be wrong with such a table keeps
-// it from being compiled (Tables.h).
+// A screen as data: its window, its controls and its menus. Form builds them. What is wrong in such a table is found
+// while it is compiled (Tables.h), or by Form.
 #pragma once
 
 #include <cstdint>

@@ -5,7 +5,6 @@
 #include "Design.h"
 
 #include <algorithm>
-#include <array>
 #include <span>
 #include <string_view>
 
@@ -64,6 +63,12 @@ constexpr void CheckNames(std::span<const ControlDesign> table)
         if (table[i].name.empty()) {
             Wrong("a control has no name");
         }
+        const auto isBefore = [&table, i](const ControlDesign& other) {
+            return other.name == table[i].name && other.index == table[i].index - 1;
+        };
+        if (table[i].index > 0 && std::ranges::none_of(table, isBefore)) {
+            Wrong("an array of controls has a gap");
+        }
         const bool holds = table[i].kind == Kind::Frame || table[i].kind == Kind::Picture;
         for (std::size_t j = 0; j < table.size(); ++j) {
             if (j > i && table[j].name == table[i].name && table[j].index == table[i].index) {
@@ -107,8 +112,8 @@ constexpr void CheckTabs(std::span<const ControlDesign> table)
     }
 }
 
-// Each access key is one control's own, unless the keys are `shared`. A label without a place in the tab order has
-// none.
+// Each access key is one control's own, unless the keys are `shared`, and leads to a tab stop, or a label's to the
+// next.
 constexpr void CheckAccessKeys(std::span<const ControlDesign> table, bool shared)
 {
     for (std::size_t i = 0; i < table.size(); ++i) {

@@ -22,10 +22,8 @@ public:
     QString CaretLine() const override { return text(); }
     void Select(int start, int length) override;
 
-    // The type that the box has when its text is short.
-    void SetFullFont(const QFont& font);
-
     void TakeColors() override;
+    void SetFullFont(const QFont& font) override;
 
 protected:
     void focusInEvent(QFocusEvent* event) override;

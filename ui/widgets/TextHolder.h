@@ -8,6 +8,7 @@
 
 #include <functional>
 
+class QFont;
 class QPainter;
 class QWidget;
 
@@ -36,6 +37,9 @@ public:
 
     // Takes the colours from the desktop's theme.
     virtual void TakeColors() = 0;
+
+    // Takes the type that the box has when its text is short; one that always has that type need not do anything.
+    virtual void SetFullFont(const QFont&) {}
 
     // Puts the caret at the start, but not before the screen reader has been told of the focus: a caret that moves
     // first is all that it would notice. A key that comes before that finds the caret there too (SettleCaret).

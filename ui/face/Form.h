@@ -73,12 +73,12 @@ protected:
     // The control of this name; and the controls, or menu entries, of one name by their index. A name that the design
     // does not have ends the program, as does that of another kind of control.
     template <class T>
-    T& The(std::string_view name) const
+    T& The(std::string_view name)
     {
         return All<T>(name)[0];
     }
     template <class T>
-    ControlArray<T> All(std::string_view name) const
+    ControlArray<T> All(std::string_view name)
     {
         std::vector<std::reference_wrapper<T>> members;
         if constexpr (std::is_same_v<T, MenuItem>) {
@@ -144,7 +144,7 @@ private:
         };
     }
     template <class T, class Slot, class Handler>
-    void Tie(std::string_view name, Slot T::*slot, const Handler& handler) const
+    void Tie(std::string_view name, Slot T::*slot, const Handler& handler)
     {
         for (T& member : All<T>(name)) {
             member.*slot = handler;

@@ -53,9 +53,7 @@ double TextBox::Number() const
 void TextBox::PutInPlace()
 {
     Control::PutInPlace();
-    if (auto* oneLine = qobject_cast<OneLineEdit*>(&Widget())) {
-        oneLine->SetFullFont(Font());
-    }
+    m_holder.SetFullFont(Font());
 }
 
 void TextBox::Select(int start, int length)

@@ -19,8 +19,8 @@ Button::Button(const ControlDesign& design, FaceButton* button)
 {
     Caption(design.text);
     QObject::connect(button, &QPushButton::clicked, button, [this] {
-        if (OnClick && pressed) {
-            pressed();
+        if (OnClick) {
+            around([this] { OnClick(Index()); });
         }
     });
 }
@@ -50,11 +50,6 @@ void Button::Press()
 {
     m_button.setFocus(Qt::ShortcutFocusReason);
     m_button.click();
-}
-
-void Button::Click() const
-{
-    OnClick(Index());
 }
 
 bool Button::HasAccessKey(const QKeySequence& key) const

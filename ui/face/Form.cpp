@@ -7,6 +7,7 @@
 #include "Timing.h"
 
 #include <QMenuBar>
+#include <QPointer>
 
 #include <algorithm>
 #include <cstdlib>
@@ -116,7 +117,11 @@ void Form::TellExercise()
 void Form::SayWhereItLeads(const std::function<void()>& action) const
 {
     const FocusTrace trace;
+    const QPointer<QMainWindow> window(&m_window);
     action();
+    if (!window) {
+        return; // it has closed the screen
+    }
     if (const auto* box = dynamic_cast<const TextBox*>(ControlOf(trace.Unheard()))) {
         box->SayWhereItIs();
     }
@@ -144,7 +149,9 @@ void Form::BuildControls()
         m_controls.push_back(Create(design, parent));
         m_window.Watch(*m_controls.back());
         if (auto* button = dynamic_cast<Button*>(m_controls.back().get())) {
-            button->pressed = [this, button] { SayWhereItLeads([button] { Run([button] { button->Click(); }); }); };
+            button->around = [this](const std::function<void()>& handler) {
+                SayWhereItLeads([&handler] { Run(handler); });
+            };
         }
     }
 }

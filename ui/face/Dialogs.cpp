@@ -8,7 +8,6 @@
 #include <QApplication>
 #include <QInputDialog>
 #include <QKeyEvent>
-#include <QLabel>
 #include <QMainWindow>
 #include <QMessageBox>
 #include <QPushButton>

@@ -39,14 +39,11 @@ public:
 
     void BackColor(Color color);
 
-    // Runs the handler, which there is.
-    void Click() const;
-
     // Handler, with the button's index in its array.
     std::function<void(int Index)> OnClick;
 
-    // What pressing a button with a handler brings: Click, and whatever the form does around it.
-    std::function<void()> pressed;
+    // Runs the handler where the button is pressed. The form puts its own in place.
+    std::function<void(const std::function<void()>& handler)> around = [](const auto& handler) { handler(); };
 
 private:
     Button(const ControlDesign& design, FaceButton* button);
