@@ -1,5 +1,5 @@
-// A 16-bit signed integer whose arithmetic is checked. Counters and what is computed of fractions are kept in it: leaving the range
-// -32768..32767 throws Desbordamiento, which ends the program (ui/Handlers.h).
+// A 16-bit signed integer whose arithmetic is checked. Counters and what is computed of fractions are kept in it:
+// leaving the range -32768..32767 throws Desbordamiento, which ends the program (ui/Handlers.h).
 #pragma once
 
 #include <cstdint>

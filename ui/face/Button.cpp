@@ -18,6 +18,7 @@ Button::Button(const ControlDesign& design, FaceButton* button)
     : Control(design, *button), m_button(*button), m_accessibleName(design.accessibleName)
 {
     Caption(design.text);
+    NameChanged(); // also where there is no caption
     QObject::connect(button, &QPushButton::clicked, button, [this] {
         if (OnClick) {
             around([this] { OnClick(Index()); });
