@@ -231,7 +231,7 @@ void FormSeries::VerSolucion()
     Tell(lenguaje::FraccionEnLetras({numerador, denominador}));
 }
 
-void FormSeries::Proteger(ui::TextBox& termino, const reglas::Numeros& numeros)
+void FormSeries::Proteger(ui::TextBox& termino, const reglas::Numeros& numeros) const
 {
     if (termino.Index() >= PosicionHueco) {
         return;

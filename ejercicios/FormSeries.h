@@ -31,7 +31,7 @@ private:
     void MostrarSerie();
 
     // A term that is shown cannot be edited.
-    void Proteger(ui::TextBox& termino, const reglas::Numeros& numeros);
+    void Proteger(ui::TextBox& termino, const reglas::Numeros& numeros) const;
 
     const ui::ControlArray<ui::TextBox> Text1 = All<ui::TextBox>("Text1"); // numerators
     const ui::ControlArray<ui::TextBox> Text2 = All<ui::TextBox>("Text2"); // denominators

@@ -4,6 +4,16 @@
 
 namespace lenguaje {
 
+namespace {
+
+// `valor` in words, as a denominator or not.
+std::string EnLetras(double valor, bool esDenominador, Variante variante)
+{
+    return NumeroEnLetras(valor, esDenominador, variante);
+}
+
+} // namespace
+
 bool EsSingular(double numerador, Singular singular)
 {
     switch (singular) {
@@ -15,11 +25,6 @@ bool EsSingular(double numerador, Singular singular)
         break;
     }
     return numerador <= 1;
-}
-
-std::string EnLetras(double valor, bool esDenominador, Variante variante)
-{
-    return NumeroEnLetras(valor, esDenominador, variante);
 }
 
 std::string EnLetrasSolo(double valor)

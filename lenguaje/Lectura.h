@@ -27,9 +27,6 @@ struct Modo
     Singular singular = Singular::Uno;
 };
 
-// `valor` in words, as a denominator or not.
-std::string EnLetras(double valor, bool esDenominador, Variante variante);
-
 // `valor` in words where no noun follows: 1 is "uno".
 std::string EnLetrasSolo(double valor);
 

@@ -226,7 +226,7 @@ int main(int argc, char** argv)
     const Answers answers;
     const int exercises = QApplication::arguments().value(1, "100").toInt();
     const int only = QApplication::arguments().value(2, "-1").toInt();
-    for (int index = 0; index < static_cast<int>(app::pantallas.size()); ++index) {
+    for (int index = 0; index < std::ssize(app::pantallas); ++index) {
         if (only >= 0 && index != only) {
             continue;
         }

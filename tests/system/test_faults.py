@@ -163,6 +163,7 @@ class Alone(unittest.TestCase):
     def begin(self, *command):
         program = self.desktop.start(*(command or [PROGRAM]))
         self.desktop.wait_window("KELVORA")
+        self.desktop.wait_active("KELVORA")
         return program
 
     def open(self, name, title):
