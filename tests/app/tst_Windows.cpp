@@ -89,10 +89,11 @@ struct Ink
     QRect bounds;
     int pixels = 0;
 
-    // As good as the same, as far as two ways of drawing a text can be told apart.
-    bool IsLike(const Ink& other) const
+    // As good as the same, as far as two ways of drawing a text can be told apart where all is `scale` times as large:
+    // the pixels at the border of a letter are more or less.
+    bool IsLike(const Ink& other, double scale) const
     {
-        constexpr int few = 16;
+        const int few = qRound(16 * scale);
         const auto near = [](int a, int b) { return std::abs(a - b) <= 1; };
         return near(bounds.width(), other.bounds.width()) && near(bounds.height(), other.bounds.height()) &&
                std::abs(pixels - other.pixels) <= std::max(other.pixels / 10, few);
@@ -218,6 +219,52 @@ private:
         return placed;
     }
 
+    // Pixels, before the screen enlarges them; 0 of what has no edge of its own.
+    static int EdgeWidth(const QWidget& widget)
+    {
+        if (qobject_cast<const QPushButton*>(&widget) != nullptr) {
+            return widget.hasFocus() ? 3 : 1;
+        }
+        const bool isBox = qobject_cast<const QLineEdit*>(&widget) != nullptr ||
+                           qobject_cast<const QPlainTextEdit*>(&widget) != nullptr;
+        return !isBox ? 0 : widget.hasFocus() ? 2 : 1;
+    }
+
+    // Of each side of a widget that has an edge the point in its middle, in the window, and the way inside from there.
+    QList<std::pair<QPoint, QPoint>> Sides(const QWidget& widget) const
+    {
+        const QRect area = (widget.mask().isEmpty() ? widget.rect() : widget.mask().boundingRect())
+                               .translated(widget.mapTo(m_form, QPoint()));
+        const QPoint middle = area.center();
+        return {{{area.left(), middle.y()}, {1, 0}},
+                {{area.right(), middle.y()}, {-1, 0}},
+                {{middle.x(), area.top()}, {0, 1}},
+                {{middle.x(), area.bottom()}, {0, -1}}};
+    }
+
+    // How many of the picture's pixels the edge is thick at the middle of a side.
+    static int SeenEdge(const QImage& picture, const QPoint& side, const QPoint& inwards)
+    {
+        const double ratio = picture.devicePixelRatio();
+        const QPointF border = (QPointF(side) + QPointF(0.5, 0.5) - QPointF(inwards) * 0.5) * ratio;
+        const auto at = [&](double inside, double along) {
+            const QPointF point = border + QPointF(inwards) * inside + QPointF(inwards.y(), inwards.x()) * along;
+            return picture.pixelColor(static_cast<int>(std::floor(point.x())), static_cast<int>(std::floor(point.y())));
+        };
+        QHash<QRgb, int> beside; // most of what lies behind the edge is the widget's ground
+        for (double inside = 3.5 * ratio; inside < 7 * ratio; ++inside) {
+            for (double along = -6 * ratio; along <= 6 * ratio; ++along) {
+                ++beside[at(inside, along).rgb()];
+            }
+        }
+        const QColor ground = std::ranges::max_element(beside).key();
+        int seen = 0;
+        for (double inside = 0.5; inside < 4 * ratio; ++inside) {
+            seen += ui::Contrast(at(inside, 0), ground) > 1.3 ? 1 : 0;
+        }
+        return seen;
+    }
+
     // A short text in every box that is empty.
     void Fill() const
     {
@@ -325,7 +372,7 @@ private:
                     continue;
                 }
                 tried.insert({taken.width(), taken.height()});
-                if (seen.IsLike(setting.Drawn())) {
+                if (seen.IsLike(setting.Drawn(), scale)) {
                     return;
                 }
             }
@@ -628,6 +675,32 @@ private slots:
                 }
             }
             QVERIFY2(marked >= with.width() + with.height(), qPrintable(stop->objectName()));
+        }
+    }
+
+    // On a screen that draws everything larger by a fraction, too.
+    void every_edge_is_whole_data() { EachWindow(); }
+    void every_edge_is_whole()
+    {
+        OpenIt();
+        for (QWidget* focus : Stops()) {
+            focus->setFocus();
+            const QImage picture = m_form->grab().toImage();
+            for (QWidget* widget : Placed()) {
+                if (!widget->isVisible() || EdgeWidth(*widget) == 0) {
+                    continue;
+                }
+                for (const auto& [side, inwards] : Sides(*widget)) {
+                    const int seen = SeenEdge(picture, side, inwards);
+                    QVERIFY2(seen >= std::floor(EdgeWidth(*widget) * picture.devicePixelRatio()),
+                             qPrintable(QString("%1: %2 pixels, %3, %4, focus in %5")
+                                            .arg(widget->objectName())
+                                            .arg(seen)
+                                            .arg(inwards.x())
+                                            .arg(inwards.y())
+                                            .arg(focus->objectName())));
+                }
+            }
         }
     }
 

@@ -53,9 +53,7 @@ void FaceButton::paintEvent(QPaintEvent*)
     const QRect area = mask().isEmpty() ? rect() : mask().boundingRect();
     QPainter painter(this);
     painter.fillRect(area, m_face);
-    const int width = hasFocus() ? focusWidth : edgeWidth;
-    painter.setPen(QPen(Qt::black, width, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
-    painter.drawRect(area.adjusted(width / 2, width / 2, -(width + 1) / 2, -(width + 1) / 2));
+    DrawEdge(painter, area, Qt::black, hasFocus() ? focusWidth : edgeWidth);
 
     const int flags = Qt::AlignCenter | Qt::TextShowMnemonic | Qt::TextWordWrap;
     const QRect captionArea = area.adjusted(captionMargin, 1, -captionMargin, -1);

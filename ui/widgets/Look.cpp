@@ -1,6 +1,7 @@
 #include "Look.h"
 
 #include <QFontMetrics>
+#include <QPainter>
 
 #include <algorithm>
 #include <cmath>
@@ -74,6 +75,13 @@ QStringList Families(const QString& family)
              << "DejaVu Sans";
     families.removeDuplicates();
     return families;
+}
+
+void DrawEdge(QPainter& painter, const QRect& area, const QColor& color, int width)
+{
+    const double half = width / 2.0;
+    painter.setPen(QPen(color, width, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+    painter.drawRect(QRectF(area).adjusted(half, half, -half, -half));
 }
 
 QFont Fitting(QFont font, const QString& text, const QSize& area, int flags, int smallest)

@@ -9,6 +9,8 @@
 #include <QString>
 #include <QStringList>
 
+class QPainter;
+
 namespace ui {
 
 inline constexpr double pixelsPerPoint = 96.0 / 72.0;
@@ -28,6 +30,10 @@ QColor ReadableOn(const QColor& background, const QColor& wanted);
 // The families in which type asked for in `family` is drawn, best first. A desktop without Comic Sans would offer
 // handwriting instead, which is hard to read; one without Arial Narrow, as Windows often is, would offer no sans serif.
 QStringList Families(const QString& family);
+
+// Draws the edge of `area`, `width` pixels thick, all inside it: what lies outside is cut off where a screen enlarges
+// pixels by a fraction.
+void DrawEdge(QPainter& painter, const QRect& area, const QColor& color, int width);
 
 // `font` in the largest size from its own down to `smallest` pixels in which `text` fits into `area`, drawn with Qt
 // text `flags`; in the smallest where it fits in none.

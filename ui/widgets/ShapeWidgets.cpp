@@ -27,8 +27,7 @@ void FrameWidget::paintEvent(QPaintEvent* event)
     constexpr int margin = 4;
     QPainter painter(this);
     painter.fillRect(rect(), *m_color);
-    painter.setPen(Qt::black);
-    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    DrawEdge(painter, rect(), Qt::black, 1);
     painter.drawText(rect().adjusted(margin, margin, -margin, -margin), Qt::AlignTop | Qt::AlignHCenter, title());
 }
 
@@ -40,8 +39,7 @@ PictureWidget::PictureWidget(QWidget* parent) : QWidget(parent)
 void PictureWidget::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
-    painter.setPen(palette().color(QPalette::WindowText));
-    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    DrawEdge(painter, rect(), palette().color(QPalette::WindowText), 1);
 }
 
 LineWidget::LineWidget(QWidget* parent) : QWidget(parent)

@@ -42,12 +42,9 @@ QPalette TextHolder::Colors(Coloring coloring, bool locked)
 
 void TextHolder::PaintEdge(QPainter& painter, const QRect& area, const QPalette& colors, bool locked, bool focused)
 {
-    const int width = focused ? 2 : 1;
-    const int inset = width / 2;
     QColor edge = colors.color(QPalette::Text);
     edge.setAlphaF(locked && !focused ? 0.35F : 1.0F);
-    painter.setPen(QPen(edge, width, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
-    painter.drawRect(area.adjusted(inset, inset, -1, -1));
+    DrawEdge(painter, area, edge, focused ? 2 : 1);
 }
 
 } // namespace ui
