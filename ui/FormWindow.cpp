@@ -103,9 +103,7 @@ bool Form::FormWindow::event(QEvent* event)
         }
     }
     if (event->type() == QEvent::Close) { // while a menu is open, Qt does not see which window becomes active next
-        while (QWidget* menu = QApplication::activePopupWidget()) {
-            menu->close();
-        }
+        CloseMenus();
     }
     const bool handled = QMainWindow::event(event);
     if (event->type() == QEvent::ApplicationPaletteChange) { // only windows are told

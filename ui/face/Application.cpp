@@ -4,6 +4,7 @@
 #include "Announcer.h"
 #include "KeyOrder.h"
 #include "Look.h"
+#include "Menu.h"
 
 #include <QApplication>
 #include <QIcon>
@@ -11,6 +12,7 @@
 #include <QLocale>
 #include <QThread>
 #include <QTranslator>
+#include <QWindow>
 
 #include <cstdlib>
 
@@ -30,6 +32,7 @@ private:
     void MakeSelectionLegible();
 
     KeyOrder m_keys;
+    const bool m_isWayland = platformName().startsWith("wayland");
     int m_depth = 0;
     Announcer m_announcer;
     QTranslator m_translator;
@@ -50,6 +53,9 @@ Application::Dispatch::Dispatch(int& argc, char** argv) : QApplication(argc, arg
     }
     SetUpAccessibility();
     MakeSelectionLegible();
+    if (m_isWayland) { // menus without a grab do not stay open in front of another window
+        connect(this, &QGuiApplication::focusWindowChanged, this, &CloseMenus);
+    }
 }
 
 bool Application::Dispatch::event(QEvent* event)
@@ -65,6 +71,9 @@ bool Application::Dispatch::notify(QObject* receiver, QEvent* event)
 {
     if (receiver->thread() != thread()) { // Qt has threads of its own
         return QApplication::notify(receiver, event);
+    }
+    if (m_isWayland && event->type() == QEvent::Show) {
+        OpenWithoutGrab(*receiver);
     }
     const QEvent::Type type = event->type(); // the event may be gone when it has been handled
     if (m_keys.Postpones(*receiver, *event)) {

@@ -9,6 +9,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPointer>
+#include <QWindow>
 
 namespace ui {
 
@@ -100,6 +101,20 @@ std::vector<std::unique_ptr<MenuItem>> BuildMenus(QMenuBar& bar, std::span<const
         }
     }
     return items;
+}
+
+void CloseMenus()
+{
+    while (QWidget* menu = QApplication::activePopupWidget()) {
+        menu->close();
+    }
+}
+
+void OpenWithoutGrab(const QObject& shown)
+{
+    if (const auto* menu = qobject_cast<const QMenu*>(&shown)) {
+        menu->windowHandle()->setFlags((menu->windowFlags() & ~Qt::WindowType_Mask) | Qt::ToolTip);
+    }
 }
 
 } // namespace ui

@@ -10,6 +10,7 @@
 
 class QAction;
 class QMenuBar;
+class QObject;
 
 namespace ui {
 
@@ -33,5 +34,15 @@ private:
 
 // Fills `bar` with the menus of `designs`, which outlive it.
 std::vector<std::unique_ptr<MenuItem>> BuildMenus(QMenuBar& bar, std::span<const MenuDesign> designs);
+
+// Closes the menus that are open.
+void CloseMenus();
+
+// To be told, on Wayland, of what is about to be shown (QEvent::Show), when it has a window and that is not shown yet.
+// A menu grabs the keyboard, and a Wayland desktop lets only who asks with the key that was pressed last: where the
+// finger on the next key is quicker, it takes the menu away, and that key goes into the screen. So the desktop is told
+// of a tool tip, which grabs nothing. The menu's keys come all the same, to the window that it belongs to; and so do
+// clicks, but for those outside the program's windows.
+void OpenWithoutGrab(const QObject& shown);
 
 } // namespace ui
