@@ -242,7 +242,7 @@ class Alone(unittest.TestCase):
     def test_the_display_goes_away(self):
         program = self.desktop.start(PROGRAM, stderr=subprocess.PIPE, text=True)
         self.desktop.wait_window("KELVORA")
-        self.desktop.end(self.desktop.display)
+        self.desktop.end(self.desktop.display.server)
         self.assertEqual(program.wait(LIMIT), 1)  # and no signal
         self.assertIn("X11 connection broke", program.stderr.read())
         program.stderr.close()
@@ -285,7 +285,7 @@ class Alone(unittest.TestCase):
         self.assertEqual(program.wait(LIMIT), 0)
 
     def test_words_behind_its_name_change_nothing(self):
-        program = self.begin(PROGRAM, "suma", "--nada", "/dev/null")
+        program = self.begin(PROGRAM, "suma", "/dev/null")
         self.assertEqual({name for role, name, _ in self.desktop.things("KELVORA") if "button" in role}, set(MENU))
         self.desktop.press("Tab", "alt+F4")  # the window manager may not see a desktop's very first key
         self.assertEqual(program.wait(LIMIT), 0)

@@ -10,11 +10,16 @@
 #include <QIcon>
 #include <QLibraryInfo>
 #include <QLocale>
+#include <QMutex>
 #include <QThread>
 #include <QTranslator>
 #include <QWindow>
 
+#include <cstdio>
 #include <cstdlib>
+#include <tuple>
+#include <utility>
+#include <vector>
 
 namespace ui {
 
@@ -100,7 +105,54 @@ void Application::Dispatch::MakeSelectionLegible()
     }
 }
 
-Application::Application(int& argc, char** argv) : m_dispatch(std::make_unique<Dispatch>(argc, argv))
+namespace {
+
+// While it lives, what Qt warns of is held back; where it ends the program, as it does without a display, a line in
+// Spanish takes the place of all that and of an abort. Afterwards the warnings come, of what was missing but not
+// missed.
+class Beginning final
+{
+public:
+    Beginning() { s_usual = qInstallMessageHandler(Hear); }
+    ~Beginning()
+    {
+        qInstallMessageHandler(s_usual);
+        const QMutexLocker locker(&s_mutex);
+        for (const auto& [type, category, text] : std::exchange(s_warnings, {})) {
+            s_usual(type, QMessageLogContext(nullptr, 0, nullptr, category), text);
+        }
+    }
+    Beginning(const Beginning&) = delete;
+    Beginning& operator=(const Beginning&) = delete;
+
+private:
+    static void Hear(QtMsgType type, const QMessageLogContext& context, const QString& text)
+    {
+        const QMutexLocker locker(&s_mutex); // Qt has threads of its own
+        if (type == QtFatalMsg) {
+            std::fputs(
+                "kelvora: no se puede abrir ninguna ventana: no hay pantalla, o falta la parte de Qt que la usa\n",
+                stderr);
+            std::_Exit(EXIT_FAILURE);
+        } else if (type == QtDebugMsg) { // somebody has asked for it
+            s_usual(type, context, text);
+        } else {
+            s_warnings.emplace_back(type, context.category, text);
+        }
+    }
+
+    inline static QtMessageHandler s_usual = nullptr;
+    inline static QMutex s_mutex;
+    inline static std::vector<std::tuple<QtMsgType, const char*, QString>> s_warnings;
+};
+
+} // namespace
+
+Application::Application(int& argc, char** argv)
+    : m_dispatch([&] {
+          const Beginning beginning;
+          return std::make_unique<Dispatch>(argc, argv);
+      }())
 {
 }
 

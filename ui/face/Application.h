@@ -8,6 +8,7 @@ namespace ui {
 class Application final
 {
 public:
+    // Without a display it ends the program with a line on the standard error and status 1.
     Application(int& argc, char** argv);
     ~Application();
     Application(const Application&) = delete;
