@@ -6,12 +6,14 @@
 #include "Timing.h"
 
 #include <QApplication>
+#include <QDialog>
 #include <QKeyEvent>
 #include <QLayout>
 #include <QPointer>
 #include <QScreen>
 #include <QShortcutEvent>
 #include <QStyle>
+#include <QTimer>
 #include <QWindow>
 
 #include <algorithm>
@@ -33,6 +35,14 @@ bool IsFocusMove(const QEvent& event)
 QPointer<QMainWindow> front;
 
 } // namespace
+
+void BringForward(QWidget& window)
+{
+    window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
+    window.show();
+    window.raise();
+    window.activateWindow();
+}
 
 QMainWindow* Form::FrontWindow()
 {
@@ -98,8 +108,8 @@ bool Form::FormWindow::event(QEvent* event)
         QWidget* modal = QApplication::activeModalWidget();
         if (modal == nullptr || modal == this) {
             front = this;
-        } else if (const auto* screen = dynamic_cast<FormWindow*>(modal)) { // this one is dead
-            screen->m_screen.BringForward();
+        } else if (dynamic_cast<FormWindow*>(modal) != nullptr || qobject_cast<QDialog*>(modal) != nullptr) {
+            LeadTo(*modal);
         }
     }
     if (event->type() == QEvent::Close) { // while a menu is open, Qt does not see which window becomes active next
@@ -112,6 +122,23 @@ bool Form::FormWindow::event(QEvent* event)
         }
     }
     return handled;
+}
+
+// This window is dead while `modal` is open. The desktop is asked to bring that, and where it does not, since it does
+// not know the two for one or lets nobody come forward, that opens once more.
+void Form::FormWindow::LeadTo(QWidget& modal)
+{
+    constexpr int patience = 300; // milliseconds, so that a box that is just opening is left alone
+    ui::BringForward(modal);
+    QTimer::singleShot(patience, this, [this, blocking = QPointer(&modal)] {
+        if (!blocking || !isActiveWindow() || QApplication::activeModalWidget() != blocking) {
+            return;
+        }
+        blocking->hide();
+        if (qobject_cast<QDialog*>(blocking) == nullptr) { // a box opens by itself; see OpenBox
+            ui::BringForward(*blocking);
+        }
+    });
 }
 
 bool Form::FormWindow::eventFilter(QObject* watched, QEvent* event)

@@ -9,6 +9,9 @@ class QShortcutEvent;
 
 namespace ui {
 
+// Brings a window to the front, and back if it was minimised.
+void BringForward(QWidget& window);
+
 class Form::FormWindow final : public QMainWindow
 {
 public:
@@ -29,6 +32,7 @@ private:
     QSize OpeningSize() const;
     void BelongTo(const Form* opener);
     void TakeOpeningSize();
+    void LeadTo(QWidget& modal);
     void Arrange();
 
     KeyResult Handle(QObject* watched, QEvent& event);

@@ -89,6 +89,20 @@ private slots:
         QCOMPARE(answer, yes ? ui::Answer::Yes : ui::Answer::No);
     }
 
+    void a_box_that_is_hidden_opens_again_and_is_answered_then()
+    {
+        ui::Answer answer = ui::Answer::No;
+        WithDialog([&answer] { answer = ui::MsgBoxYesNo("¿desea continuar?"); },
+                   [](QWidget& dialog) {
+                       dialog.hide();
+                       QTimer::singleShot(0, &dialog, [&dialog] {
+                           QVERIFY(WaitActive(dialog));
+                           Press(Qt::Key_Return);
+                       });
+                   });
+        QCOMPARE(answer, ui::Answer::Yes);
+    }
+
     void enter_answers_yes_in_whatever_order_the_desktop_has_the_buttons_data()
     {
         QTest::addColumn<int>("layout");

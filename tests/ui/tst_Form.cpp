@@ -11,6 +11,7 @@
 #include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QSignalSpy>
 #include <QTimer>
 #include <QWindow>
 
@@ -170,6 +171,24 @@ private slots:
         QCoreApplication::sendEvent(menu.Window(), &asked);
         QTRY_VERIFY(!m_window->isMinimized());
         QVERIFY(WaitActive(*m_window));
+    }
+
+    // As where a desktop does not know the two for one and lets no window come forward.
+    void a_modal_screen_that_cannot_come_to_the_front_opens_once_more()
+    {
+        sample::Sample menu;
+        menu.Open();
+        QVERIFY(WaitActive(*menu.Window()));
+        Open(ui::Modality::Modal, &menu.Form());
+        QVERIFY(WaitActive(*m_window));
+        const QString focus = Focus();
+        m_window->windowHandle()->setFlag(Qt::WindowDoesNotAcceptFocus);
+        const QSignalSpy shown(m_window->windowHandle(), &QWindow::visibleChanged);
+        menu.Window()->activateWindow();
+        QTRY_VERIFY(menu.Window()->isActiveWindow());
+        QTRY_COMPARE(shown.size(), 2); // away, and there again
+        QVERIFY(WaitActive(*m_window));
+        QCOMPARE(Focus(), focus);
     }
 
     void every_object_bears_its_name()

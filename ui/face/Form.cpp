@@ -64,10 +64,7 @@ std::weak_ptr<Form> Form::Open(std::unique_ptr<Form> screen, Modality modality, 
 
 void Form::BringForward()
 {
-    m_window.setWindowState(m_window.windowState() & ~Qt::WindowMinimized);
-    m_window.show();
-    m_window.raise();
-    m_window.activateWindow();
+    ui::BringForward(m_window);
 }
 
 void Form::Close()

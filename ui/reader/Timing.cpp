@@ -93,7 +93,15 @@ void SayBeforeBox(QMessageBox& box, QWidget& screen, const QString& said)
 int OpenBox(QDialog& box)
 {
     LetReaderCatchUp();
-    return box.exec();
+    bool isAnswered = false;
+    const QMetaObject::Connection answered =
+        QObject::connect(&box, &QDialog::finished, &box, [&isAnswered] { isAnswered = true; });
+    int answer = box.exec();
+    while (!isAnswered && box.isHidden()) { // it is to open once more; at the program's end it is not hidden
+        answer = box.exec();
+    }
+    QObject::disconnect(answered);
+    return answer;
 }
 
 } // namespace ui
