@@ -45,7 +45,7 @@ if [ -d "$folder/root/.cache/kelvora/ccache" ]; then
     mkdir -p "$cache/ccache" && mount --bind "$cache/ccache" "$folder/root/.cache/kelvora/ccache" || exit
 fi
 exec chroot "$folder" /usr/bin/env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin HOME=/root LANG=C.UTF-8 DEBIAN_FRONTEND=noninteractive \
-    sh -c 'cd /kelvora && exec "$@"' sh "$@" </dev/null
+    ${KELVORA_ROUNDS:+"KELVORA_ROUNDS=$KELVORA_ROUNDS"} sh -c 'cd /kelvora && exec "$@"' sh "$@" </dev/null
 INSIDE
 }
 

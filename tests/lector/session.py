@@ -15,7 +15,8 @@ HERE = pathlib.Path(__file__).resolve().parent
 SUPPORT = HERE.parent / "support"
 sys.path.insert(0, str(SUPPORT))
 import transcript
-from desktop import LIMIT, AccessibleDesktop, wait_for
+from desktop import LIMIT, X11, AccessibleDesktop, wait_for
+from wayland import KWin, Mutter
 
 READY = "Lector de pantalla activado."
 
@@ -34,6 +35,10 @@ AddModule "transcript" "{voice}" "transcript.conf"
 DefaultModule transcript
 Include "clients/*.conf"
 """
+
+DISPLAYS = {"x11": X11, "gnome": lambda: X11(XDG_CURRENT_DESKTOP="GNOME"), "mutter": Mutter, "kwin": KWin}
+
+DISPLAY = os.environ.get("KELVORA_DISPLAY", "x11")
 
 # Qt before 6.8, and the Orca of its time, 43.
 OLD = tuple(int(part) for part in os.environ["KELVORA_QT"].split(".")[:2]) < (6, 8)
@@ -84,7 +89,7 @@ class Session(AccessibleDesktop):
     def __init__(self):
         self._read = 0
         self._letters = set()  # pressed beside Alt or Control since the last `heard`
-        super().__init__(LANG="es_ES.UTF-8", LANGUAGE="es", QT_ACCESSIBILITY="1", GTK_MODULES="", NO_AT_BRIDGE="0",
+        super().__init__(DISPLAYS[DISPLAY](), LANG="es_ES.UTF-8", LANGUAGE="es", QT_ACCESSIBILITY="1", GTK_MODULES="", NO_AT_BRIDGE="0",
                          **{key: os.environ[key] for key in ("ASAN_OPTIONS", "LOCPATH") if key in os.environ})
 
     def _set_up(self):
@@ -166,10 +171,6 @@ class Session(AccessibleDesktop):
             transcript.write(self.transcript, "KEY", key)
             super().press(key)
         self._letters.update(key[-1] for key in keys if re.search(r"\+\w$", key))
-
-    def type(self, text):
-        transcript.write(self.transcript, "KEY", text)
-        super().type(text)
 
     def _lines(self):
         return self.transcript.read_text(errors="replace").splitlines()

@@ -85,7 +85,7 @@ class Cantidad(ExerciseLesson):
         self.type("3", replacing=True)
         self.session.press("Return")
         self.expect_input("Introducir fracción", "Introduzca el denominador de la fracción:",
-                          f"{PARTS.index(match[2])}")
+                          f"{PARTS.index(match[2])}", behind=editable_selected("Resultado", solution))
         self.press("Escape", window_again(self.title), editable_selected("Resultado", solution))
         self.session.press("F3")
         self.expect_input("Introducir cantidad", "Introduzca la cantidad:", f"{CARDINALS.index(match[3])}")

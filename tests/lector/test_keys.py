@@ -48,10 +48,6 @@ class Keys(unittest.TestCase):
         wait_for(look, what, said=lambda: seen)
         return self.boxes()  # what was read before that, of one look, may be older
 
-    def send(self, *keys):
-        """All at once."""
-        subprocess.run(["xdotool", "key", "--delay", "0", *keys], env=self.session.env, check=True)
-
     def open_product(self):
         self.open_screen("Producto de fracciones", "PRODUCTO DE FRACCIONES")
         self.clear()
@@ -66,7 +62,7 @@ class Keys(unittest.TestCase):
         self.open_product()
         before = self.boxes()
         for i in range(ROUNDS):
-            self.send("5", key)
+            self.session.send("5", key)
             answer = "5" * (i % 10 + 1)
             after = self.wait_boxes(lambda boxes: boxes["Marcador"] != before["Marcador"]
                                     and boxes["Numerador del resultado"] == answer, f"{answer} and its verdict")
@@ -85,7 +81,7 @@ class Keys(unittest.TestCase):
         self.open_product()
         for i in range(ROUNDS):
             before = self.boxes()["Mensajes"]
-            self.send("5", "F3")
+            self.session.send("5", "F3")
             after = self.wait_boxes(lambda boxes: boxes["Mensajes"] != before and boxes["Numerador del resultado"] == "5",
                                     "the reading")
             self.assertTrue(after["Mensajes"].endswith("=cinco ceros"), (i, after["Mensajes"]))
@@ -95,7 +91,7 @@ class Keys(unittest.TestCase):
         self.open_product()
         for _ in range(ROUNDS):
             before = self.boxes()["Mensajes"]
-            self.send("5", "ctrl+Left")
+            self.session.send("5", "ctrl+Left")
             # Afterwards it would have come into the box that the cursor key leads to, which is locked.
             self.wait_boxes(lambda boxes: boxes["Mensajes"] != before and boxes["Numerador del resultado"] == "5",
                             "the digit in the answer")
@@ -105,13 +101,22 @@ class Keys(unittest.TestCase):
         self.open_screen("Fracción de una cantidad", "Fracción de una cantidad")
         self.clear("Resultado")
         for _ in range(ROUNDS):
-            self.send("5", "F3")
+            self.session.send("5", "F3")
             wait_for(lambda: self.session.has_window("Introducir cantidad"), "the input box")
             self.wait_boxes(lambda boxes: boxes["Resultado"] == "5", "the digit in the answer")
             self.session.press("Escape")
             self.session.wait_closed("Introducir cantidad")
             self.session.wait_active("Fracción de una cantidad")
             self.clear("Resultado")
+
+    def test_the_key_of_a_menu_and_those_that_lead_through_it_behind_it(self):
+        self.open_screen("Suma de fracciones", "SUMA DE FRACCIONES")
+        for _ in range(ROUNDS):
+            self.session.send("alt+o", "Down", "Down", "Return")
+            self.session.wait_window("Combinaciones de teclas")
+            self.session.press("Return")
+            self.session.wait_closed("Combinaciones de teclas")
+            self.session.wait_active("SUMA DE FRACCIONES")
 
 
 if __name__ == "__main__":
