@@ -54,6 +54,8 @@ Form::FormWindow::FormWindow(Form& screen) : m_screen(screen)
     setAttribute(Qt::WA_DeleteOnClose);
     setCentralWidget(new QWidget);
     centralWidget()->setMinimumSize(1, 1);
+    m_patience.setSingleShot(true);
+    connect(&m_patience, &QTimer::timeout, this, &FormWindow::OpenBlockingAgain);
 }
 
 void Form::FormWindow::Open(std::shared_ptr<Form> screen, Modality modality, const Form* opener)
@@ -105,11 +107,11 @@ void Form::FormWindow::Watch(Control& control)
 bool Form::FormWindow::event(QEvent* event)
 {
     if (event->type() == QEvent::WindowActivate) {
-        QWidget* modal = QApplication::activeModalWidget();
-        if (modal == nullptr || modal == this) {
+        m_patience.stop();
+        if (QApplication::activeModalWidget() == nullptr || QApplication::activeModalWidget() == this) {
             front = this;
-        } else if (dynamic_cast<FormWindow*>(modal) != nullptr || qobject_cast<QDialog*>(modal) != nullptr) {
-            LeadTo(*modal);
+        } else if (QWidget* blocking = Blocking()) {
+            LeadTo(*blocking);
         }
     }
     if (event->type() == QEvent::Close) { // while a menu is open, Qt does not see which window becomes active next
@@ -124,21 +126,34 @@ bool Form::FormWindow::event(QEvent* event)
     return handled;
 }
 
-// This window is dead while `modal` is open. The desktop is asked to bring that, and where it does not, since it does
-// not know the two for one or lets nobody come forward, that opens once more.
-void Form::FormWindow::LeadTo(QWidget& modal)
+// The screen or box that this window waits for; null also for the moment before a box, in which nothing is to be seen.
+QWidget* Form::FormWindow::Blocking() const
+{
+    QWidget* modal = QApplication::activeModalWidget();
+    const bool isOther =
+        modal != this && (dynamic_cast<FormWindow*>(modal) != nullptr || qobject_cast<QDialog*>(modal) != nullptr);
+    return isOther ? modal : nullptr;
+}
+
+// This window is dead while `blocking` is open. The desktop is asked to bring that, and where it does not, since it
+// does not know the two for one or lets nobody come forward, that opens once more.
+void Form::FormWindow::LeadTo(QWidget& blocking)
 {
     constexpr int patience = 300; // milliseconds, so that a box that is just opening is left alone
-    ui::BringForward(modal);
-    QTimer::singleShot(patience, this, [this, blocking = QPointer(&modal)] {
-        if (!blocking || !isActiveWindow() || QApplication::activeModalWidget() != blocking) {
-            return;
-        }
-        blocking->hide();
-        if (qobject_cast<QDialog*>(blocking) == nullptr) { // a box opens by itself; see OpenBox
-            ui::BringForward(*blocking);
-        }
-    });
+    ui::BringForward(blocking);
+    m_patience.start(patience);
+}
+
+void Form::FormWindow::OpenBlockingAgain()
+{
+    QWidget* blocking = Blocking();
+    if (blocking == nullptr || !isActiveWindow()) {
+        return;
+    }
+    blocking->hide();
+    if (qobject_cast<QDialog*>(blocking) == nullptr) { // a box opens by itself; see OpenBox
+        ui::BringForward(*blocking);
+    }
 }
 
 bool Form::FormWindow::eventFilter(QObject* watched, QEvent* event)

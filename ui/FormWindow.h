@@ -4,6 +4,7 @@
 #include "Form.h"
 
 #include <QMainWindow>
+#include <QTimer>
 
 class QShortcutEvent;
 
@@ -32,7 +33,9 @@ private:
     QSize OpeningSize() const;
     void BelongTo(const Form* opener);
     void TakeOpeningSize();
-    void LeadTo(QWidget& modal);
+    QWidget* Blocking() const;
+    void LeadTo(QWidget& blocking);
+    void OpenBlockingAgain();
     void Arrange();
 
     KeyResult Handle(QObject* watched, QEvent& event);
@@ -44,6 +47,7 @@ private:
 
     Form& m_screen;
     std::shared_ptr<Form> m_owned;
+    QTimer m_patience;           // with the desktop, which is to bring forward what this window waits for
     bool m_lockedIsSaid = false; // of the box in focus, since the pupil began to type into it
 };
 

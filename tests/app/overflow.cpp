@@ -1,6 +1,6 @@
 // A pupil who drives a number out of its range: by answering once more than the counters can count, or with a
-// quantity and a numerator of one's own, or by divisors whose product is too large. Prints the score before and after,
-// and the message that ends the program; its exit status is the program's.
+// quantity and a numerator of one's own, or by divisors that are too large together, or one alone. Prints the score
+// before and after, and the message that ends the program; its exit status is the program's.
 #include "Application.h"
 #include "Form2.h"
 #include "FormCantidad.h"
@@ -13,6 +13,7 @@
 #include <QLineEdit>
 #include <QMainWindow>
 #include <QMessageBox>
+#include <QPointer>
 #include <QPushButton>
 #include <QTimer>
 
@@ -23,12 +24,12 @@ namespace {
 
 constexpr int mostThatCounts = 32767;
 
-// Presses Enter, which is the end.
-void PressTheLastKey(const QWidget& form, const QString& scoreName = "tbResultados")
+void PressTheLastKey(const QWidget& form, const QString& scoreName = "tbResultados", Qt::Key key = Qt::Key_Return,
+                     Qt::KeyboardModifiers modifiers = Qt::NoModifier)
 {
     const auto& score = support::Child<QLineEdit>(form, scoreName);
     std::printf("%s\n", qUtf8Printable(score.text()));
-    support::WithDialog([] { support::Press(Qt::Key_Return); },
+    support::WithDialog([key, modifiers] { support::Press(key, modifiers); },
                         [](QWidget& dialog) {
                             const auto& box = dynamic_cast<QMessageBox&>(dialog);
                             const bool critical = box.icon() == QMessageBox::Critical;
@@ -77,19 +78,33 @@ void AskForTooMuch(QWidget& form)
     PressTheLastKey(form); // 2520 * 14 is 35280
 }
 
+// Writes behind the bar of a row.
+void WriteDivisor(const QWidget& form, const char* divisor)
+{
+    support::Child<QWidget>(form, "TbDesco").setFocus();
+    for (int column = 0; column < 6; ++column) {
+        support::Press(Qt::Key_Right);
+    }
+    support::Type(divisor);
+}
+
 void DivideByTooMuch(const QWidget& form)
 {
     for (const char* divisor : {"256", "256"}) {
-        support::Child<QWidget>(form, "TbDesco").setFocus();
-        for (int column = 0; column < 6; ++column) {
-            support::Press(Qt::Key_Right);
-        }
-        support::Type(divisor);
+        WriteDivisor(form, divisor);
         support::Press(Qt::Key_Down);
         support::Press(Qt::Key_Home);
     }
     support::Child<QWidget>(form, "Command1").setFocus();
     PressTheLastKey(form);
+}
+
+// The access key leads out of the ladder, which is read there, and presses the button, which reads it once more while
+// the program ends.
+void DivideByTooMuchTwice(const QWidget& form)
+{
+    WriteDivisor(form, "400000");
+    PressTheLastKey(form, "tbResultados", Qt::Key_H, Qt::AltModifier);
 }
 
 } // namespace
@@ -111,13 +126,15 @@ int main(int argc, char** argv)
         act = AskForTooMuch;
     } else {
         form = std::make_unique<ejercicios::FormFactores>();
-        act = DivideByTooMuch;
+        act = way == "dividing twice" ? DivideByTooMuchTwice : DivideByTooMuch;
     }
-    QMainWindow* window = &form->Window();
+    const QPointer<QMainWindow> window = &form->Window();
     ui::Form::Open(std::move(form), ui::Modality::Modeless);
-    QTimer::singleShot(0, window, [window, act] {
+    QTimer::singleShot(0, window.data(), [window, act] {
         support::WaitActive(*window);
         act(*window);
     });
-    return application.Run();
+    const int status = application.Run();
+    delete window; // what a window's fonts hold would count as leaked
+    return status;
 }

@@ -18,6 +18,8 @@ private slots:
                                  << "Ejercicios:  0; Errores:  0";
         QTest::addRow("divisors") << "dividing"
                                   << "Ejercicios:  0; Errores:  0";
+        QTest::addRow("divisor, read again at the end") << "dividing twice"
+                                                        << "Ejercicios:  0; Errores:  0";
     }
     void a_number_beyond_its_range_ends_the_program_with_a_message()
     {

@@ -225,9 +225,13 @@ private:
         if (qobject_cast<const QPushButton*>(&widget) != nullptr) {
             return widget.hasFocus() ? 3 : 1;
         }
-        const bool isBox = qobject_cast<const QLineEdit*>(&widget) != nullptr ||
-                           qobject_cast<const QPlainTextEdit*>(&widget) != nullptr;
-        return !isBox ? 0 : widget.hasFocus() ? 2 : 1;
+        if (qobject_cast<const QLineEdit*>(&widget) != nullptr ||
+            qobject_cast<const QPlainTextEdit*>(&widget) != nullptr) {
+            return widget.hasFocus() ? 2 : 1;
+        }
+        const bool isColored =
+            qobject_cast<const QGroupBox*>(&widget) != nullptr && widget.testAttribute(Qt::WA_SetPalette);
+        return isColored || widget.inherits("ui::PictureWidget") ? 1 : 0;
     }
 
     // Of each side of a widget that has an edge the point in its middle, in the window, and the way inside from there.
@@ -687,8 +691,8 @@ private slots:
             focus->setFocus();
             const QImage picture = m_form->grab().toImage();
             for (QWidget* widget : Placed()) {
-                if (!widget->isVisible() || EdgeWidth(*widget) == 0) {
-                    continue;
+                if (!widget->isVisible() || EdgeWidth(*widget) == 0 || widget->isAncestorOf(focus)) {
+                    continue; // a mark of the focus beside an edge would be taken for the ground
                 }
                 for (const auto& [side, inwards] : Sides(*widget)) {
                     const int seen = SeenEdge(picture, side, inwards);
