@@ -1,6 +1,4 @@
-"""What the keys of a Wayland desktop do while a window waits for the pupil: it is never one of those behind it that is in
-front, which are blocked, dead to every key and silent. For X11 see test_modal.
-"""
+"""What the keys of a Wayland desktop that lead from window to window do to a pupil. For X11 see test_modal."""
 
 import re
 import unittest
@@ -16,43 +14,67 @@ KEYS = {"mutter": ["alt+Escape", "alt+Tab", "super+h", "super+Down", "super+Up",
         "kwin": ["alt+Tab", "alt+shift+Tab", "super+Next", "super+Down"]}[DISPLAY]
 
 
+HIDE = {"mutter": "super+h", "kwin": "super+Next"}[DISPLAY]
+
+
 class Front(Lesson):
-    title = PRODUCT
+    first = "Numerador de la primera fracción"  # which has the focus
+    name, title, sign = "Producto de fracciones", PRODUCT, " por "
 
     def setUp(self):
         super().setUp()
-        self.open_screen(PROGRAM, "Producto de fracciones", "Numerador de la primera fracción")
-        self.session.wait_active(PRODUCT)
+        self.open_screen(PROGRAM, self.name, self.first)
+        self.session.wait_active(self.title)
 
     def tearDown(self):
         pass  # how much of a window that came and went was read is the reader's affair
 
-    def press_each(self, title):
-        """Presses each key of the desktop; afterwards it is the window of this title that is in front, if not by itself, then
-        by the key that leads to the next."""
+    def lead_to(self, title, key):
+        """Presses a key of the desktop; afterwards it is the window of this title that is in front, if not by itself, then by
+        the key that leads to the next. What is heard of it."""
+        self.session.press(key)
+        texts = self.session.heard()
+        if not self.session.display.active():
+            self.session.press("alt+Tab")
+        wait_for(lambda: self.session.display.active() == title, f"{title} in front after {key}",
+                 said=self.session.display.active)
+        return texts + self.session.heard()
+
+    def hear_reading(self, key):
+        """Asks for the reading after a key of the desktop, and hears it."""
+        reading = re.compile(rf" ?\w+ \w+{re.escape(self.sign)}\w+ \w+=")
+        self.session.press("F3")
+        wait_for(lambda: any(map(reading.fullmatch, self.session.heard_so_far())), f"the reading after {key}")
+
+
+class FrontWaiting(Front):
+    """A window waits for the pupil: it is never one of those behind it that is in front, which are blocked, dead to every key
+    and silent."""
+
+    def test_a_screen(self):
         for key in KEYS:
-            self.session.press(key)
-            self.session.heard()
-            if not self.session.display.active():
-                self.session.press("alt+Tab")
-            wait_for(lambda: self.session.display.active() == title, f"{title} in front after {key}",
-                     said=self.session.display.active)
-            yield key
+            self.lead_to(PRODUCT, key)
+            self.hear_reading(key)
 
-    def test_of_a_screen(self):
-        reading = re.compile(r" ?\w+ \w+ por \w+ \w+=")
-        for key in self.press_each(PRODUCT):
-            self.session.heard()
-            self.session.press("F3")
-            wait_for(lambda: any(map(reading.fullmatch, self.session.heard_so_far())), f"the reading after {key}")
-
-    def test_of_a_box(self):
+    def test_a_box(self):
         self.session.press("alt+o", "Down", "Return")
         self.session.wait_active(BOX)
-        for key in self.press_each(BOX):
-            pass
+        for key in KEYS:
+            self.lead_to(BOX, key)
         self.session.press("Return")
         self.session.wait_active(PRODUCT)
+
+
+class FrontMenus(Front):
+    name, title, sign = "Suma de fracciones", "SUMA DE FRACCIONES", "+"
+
+    def test_an_open_one_closes_where_another_window_gets_the_keyboard(self):
+        self.session.press("alt+o")
+        self.session.wait_heard("Cantidades")
+        self.lead_to("KELVORA", HIDE)
+        self.assertEqual(set(self.session.windows()), {"KELVORA", self.title})  # and no menu, which would be one, too
+        self.assertIn(self.first, " ".join(self.lead_to(self.title, "alt+Tab")))
+        self.hear_reading(HIDE)
 
 
 if __name__ == "__main__":

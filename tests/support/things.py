@@ -1,6 +1,6 @@
 """Prints, in JSON, what the windows of the program hold for whoever asks the accessibility bus: of each thing its role, name
 and text. With an argument, of the window of that title; with --each-line, anew for each line that it is given; with
---windows, of each window its title and whether it is the active one.
+--windows, of each window that is shown its title and whether it is the active one.
 
 A program of its own, since what is on the bus and does not answer, as a test that waits, keeps others from starting.
 """
@@ -29,7 +29,8 @@ def things(titles):
 
 
 def active():
-    return [(window.get_name(), window.get_state_set().contains(Atspi.StateType.ACTIVE)) for window in windows()]
+    return [(window.get_name(), window.get_state_set().contains(Atspi.StateType.ACTIVE)) for window in windows()
+            if window.get_state_set().contains(Atspi.StateType.SHOWING)]
 
 
 titles = [word for word in sys.argv[1:] if not word.startswith("--")]

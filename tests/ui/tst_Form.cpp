@@ -1,5 +1,6 @@
 #include "Entero16.h"
 #include "Look.h"
+#include "Menu.h"
 #include "SampleForm.h"
 #include "Support.h"
 
@@ -70,6 +71,18 @@ private slots:
         const QString before = Focus();
         Press(Qt::Key_Alt);
         Press(Qt::Key_O, Qt::AltModifier);
+        QCOMPARE(Focus(), before);
+    }
+
+    void menus_that_are_closed_from_outside_give_the_focus_back()
+    {
+        Open();
+        const QString before = Focus();
+        Press(Qt::Key_O, Qt::AltModifier);
+        QTRY_VERIFY(QApplication::activePopupWidget() != nullptr);
+        QVERIFY(Focus() != before);
+        ui::CloseMenus();
+        QVERIFY(QApplication::activePopupWidget() == nullptr);
         QCOMPARE(Focus(), before);
     }
 

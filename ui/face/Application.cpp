@@ -58,9 +58,6 @@ Application::Dispatch::Dispatch(int& argc, char** argv) : QApplication(argc, arg
     }
     SetUpAccessibility();
     MakeSelectionLegible();
-    if (m_isWayland) { // menus without a grab do not stay open in front of another window
-        connect(this, &QGuiApplication::focusWindowChanged, this, &CloseMenus);
-    }
 }
 
 bool Application::Dispatch::event(QEvent* event)
@@ -79,6 +76,9 @@ bool Application::Dispatch::notify(QObject* receiver, QEvent* event)
     }
     if (m_isWayland && event->type() == QEvent::Show) {
         OpenWithoutGrab(*receiver);
+    }
+    if (m_isWayland && event->type() == QEvent::FocusAboutToChange && receiver->isWindowType()) {
+        CloseMenus(); // which without a grab would stay open in front of another window, and keep Qt from noticing that
     }
     const QEvent::Type type = event->type(); // the event may be gone when it has been handled
     if (m_keys.Postpones(*receiver, *event)) {

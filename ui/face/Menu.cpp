@@ -6,6 +6,7 @@
 #include <QAction>
 #include <QActionGroup>
 #include <QApplication>
+#include <QKeyEvent>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPointer>
@@ -107,6 +108,10 @@ void CloseMenus()
 {
     while (QWidget* menu = QApplication::activePopupWidget()) {
         menu->close();
+        if (auto* bar = qobject_cast<QMenuBar*>(menu->parentWidget())) { // it would keep the focus
+            QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+            QCoreApplication::sendEvent(bar, &escape);
+        }
     }
 }
 
