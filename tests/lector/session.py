@@ -197,6 +197,12 @@ class Session(AccessibleDesktop):
         """The texts that the voice has begun since the last `heard`, which will give them again."""
         return self._new()
 
+    def delay(self):
+        """Seconds from the last key to the first text that the voice has begun behind it."""
+        moves = [line.split(" ", 2)[:2] for line in self._lines()]
+        pressed = max(i for i, (_, mark) in enumerate(moves) if mark == "KEY")
+        return next(float(when) for when, mark in moves[pressed:] if mark == "START") - float(moves[pressed][0])
+
     def await_heard(self, at_least):
         """Waits until so many texts have been spoken to their end since the last `heard`."""
         wait_for(lambda: sum(text.strip() not in self._letters for text in self._ended()) >= at_least,

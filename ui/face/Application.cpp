@@ -5,9 +5,11 @@
 #include "KeyOrder.h"
 #include "Look.h"
 #include "Menu.h"
+#include "Timing.h"
 
 #include <QApplication>
 #include <QIcon>
+#include <QKeyEvent>
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QMutex>
@@ -22,6 +24,17 @@
 #include <vector>
 
 namespace ui {
+
+namespace {
+
+// Whether a finger has just pressed a key, of which nothing in the program has heard yet.
+bool IsNewKey(const QObject& receiver, const QEvent& event)
+{
+    return event.type() == QEvent::ShortcutOverride && receiver.isWindowType() && event.spontaneous() &&
+           !static_cast<const QKeyEvent&>(event).isAutoRepeat();
+}
+
+} // namespace
 
 class Application::Dispatch final : public QApplication
 {
@@ -79,6 +92,9 @@ bool Application::Dispatch::notify(QObject* receiver, QEvent* event)
     }
     if (m_isWayland && event->type() == QEvent::FocusAboutToChange && receiver->isWindowType()) {
         CloseMenus(); // which without a grab would stay open in front of another window, and keep Qt from noticing that
+    }
+    if (m_isWayland && IsNewKey(*receiver, *event)) {
+        LetReaderHearKey();
     }
     const QEvent::Type type = event->type(); // the event may be gone when it has been handled
     if (m_keys.Postpones(*receiver, *event)) {

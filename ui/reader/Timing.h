@@ -85,6 +85,12 @@ private:
 // Says `said` before the text of `box`, which is about to open before `screen`.
 void SayBeforeBox(QMessageBox& box, QWidget& screen, const QString& said);
 
+// To be called on Wayland before a key that has just been pressed takes effect. Where keys come to the screen reader
+// beside the program, the desktop sends them there by way of a bus: on a busy machine the answer to a key is there
+// before it, and the key cuts that off. So it gets a lead. Nothing is handled meanwhile, so that the order of all that
+// happens stays the same.
+void LetReaderHearKey();
+
 // Opens the box and waits for its answer. Where keys come to the screen reader beside the program, it handles them with
 // the program's help: a box that is there before that is cut off, unread, by the key that has opened it. So the screen
 // reader gets a moment first, in which keys do nothing.
