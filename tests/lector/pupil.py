@@ -79,8 +79,8 @@ class Perhaps(str):
         return self
 
     def is_said_by(self, text):
-        return text.removesuffix(" [cut]") in ([self, f"{self} marco 1 diálogo sin foco."] + window(self)
-                                               + window(self, self.keys) + utterances("dialog", self))
+        return text.removesuffix(" [cut]") in ([self, *(f"{self} marco 1 diálogo sin foco{stop}" for stop in ("", "."))]
+                                               + window(self) + window(self, self.keys) + utterances("dialog", self))
 
 
 def brailled(kind, text, braille):
