@@ -91,7 +91,7 @@ class Cantidad(ExerciseLesson):
         self.expect_input("Introducir cantidad", "Introduzca la cantidad:", f"{CARDINALS.index(match[3])}")
         self.type("1", replacing=True)
         self.press_return_for_box("Introducir cantidad", "La división de la cantidad entre el denominador no es exacta "
-                                  "¿desea continuar?", "Sí")
+                                  "¿desea continuar?", "Sí", behind=editable_selected("Resultado", solution))
         reading = match.group().split("  de ")[0] + "  de un"
         self.press("alt+s", window_again(self.title), editable_selected("Resultado", solution), said(reading))
         self.press("alt+F4", window_again("KELVORA"), button(self.name))
