@@ -256,15 +256,15 @@ private:
             return picture.pixelColor(static_cast<int>(std::floor(point.x())), static_cast<int>(std::floor(point.y())));
         };
         QHash<QRgb, int> beside; // most of what lies behind the edge is the widget's ground
-        for (double inside = 3.5 * ratio; inside < 7 * ratio; ++inside) {
-            for (double along = -6 * ratio; along <= 6 * ratio; ++along) {
-                ++beside[at(inside, along).rgb()];
+        for (int inside = 0; inside < 3.5 * ratio; ++inside) {
+            for (int along = 0; along <= 12 * ratio; ++along) {
+                ++beside[at(3.5 * ratio + inside, along - 6 * ratio).rgb()];
             }
         }
         const QColor ground = std::ranges::max_element(beside).key();
         int seen = 0;
-        for (double inside = 0.5; inside < 4 * ratio; ++inside) {
-            seen += ui::Contrast(at(inside, 0), ground) > 1.3 ? 1 : 0;
+        for (int inside = 0; inside + 0.5 < 4 * ratio; ++inside) {
+            seen += ui::Contrast(at(inside + 0.5, 0), ground) > 1.3 ? 1 : 0;
         }
         return seen;
     }
