@@ -12,6 +12,11 @@ import tempfile
 import unittest
 import xml.etree.ElementTree
 
+import gi
+
+gi.require_version("GdkPixbuf", "2.0")
+from gi.repository import GdkPixbuf
+
 sys.path.insert(0, str(pathlib.Path(__file__).parent.parent / "support"))
 from desktop import LIMIT, Desktop
 
@@ -69,6 +74,13 @@ class Installed(unittest.TestCase):
         for name in (f"scalable/apps/{ID}.svg", f"symbolic/apps/{ID}-symbolic.svg"):
             self.assertTrue(xml.etree.ElementTree.parse(icons / name).getroot().tag.endswith("svg"))
 
+    def test_the_icon_of_the_windows_is_the_same(self):
+        installed = self.share / f"icons/hicolor/64x64/apps/{ID}.png"
+        carried = pathlib.Path(__file__).parents[2] / "ui/widgets/kelvora.png"
+        one, other = (GdkPixbuf.Pixbuf.new_from_file(str(path)).get_pixels() for path in (installed, carried))
+        self.assertEqual(len(one), len(other))
+        self.assertLess(max(abs(a - b) for a, b in zip(one, other)), 16)  # librsvg may round otherwise another time
+
     def test_the_metainfo_is_valid_and_of_this_version(self):
         path = self.share / f"metainfo/{ID}.metainfo.xml"
         output("appstreamcli", "validate", "--no-net", path)
@@ -103,6 +115,7 @@ class Installed(unittest.TestCase):
         program = desktop.start(self.root / "bin/kelvora", cwd="/")
         window = desktop.wait_window("KELVORA")
         self.assertIn(f'"{self.entry["StartupWMClass"]}"', desktop.output("xprop", "-id", window, "WM_CLASS"))
+        self.assertIn("Icon (64 x 64)", desktop.output("xprop", "-id", window, "_NET_WM_ICON"))
         desktop.press("shift+Tab", "Return")
         self.assertEqual(program.wait(LIMIT), 0)
 

@@ -60,7 +60,7 @@ Application::Dispatch::Dispatch(int& argc, char** argv) : QApplication(argc, arg
 {
     setApplicationName("Kelvora");
     setDesktopFileName("org.kelvora.kelvora");
-    setWindowIcon(QIcon::fromTheme(desktopFileName()));
+    setWindowIcon(QIcon(":/kelvora.png")); // Wayland takes that of the desktop file
     // Told to the screen reader as the language of the application, whatever the desktop's is.
     QLocale::setDefault(QLocale(QLocale::Spanish, QLocale::Spain));
     // For Qt's own texts, such as the context menus of text boxes; a system without the file has them in English. On
