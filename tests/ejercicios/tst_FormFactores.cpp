@@ -1,9 +1,9 @@
 #include "Draws.h"
 #include "Escalera.h"
 #include "FormFactores.h"
+#include "Habits.h"
 #include "Lectura.h"
 #include "Screen.h"
-#include "Timing.h"
 
 #include <QClipboard>
 #include <QInputDialog>
@@ -104,7 +104,10 @@ private:
     QString ValueInWords() const { return QString::fromStdString(lenguaje::EnLetrasSolo(Text("TbValor").toInt())); }
 
     // As it is told: newer readers get it with the text of the box, in which a blank has no use.
-    static QString Told(const QString& verdict) { return ui::boxesCutMessagesOff ? verdict.trimmed() : verdict; }
+    static QString Told(const QString& verdict)
+    {
+        return ui::ReaderHabits().boxesCutMessagesOff ? verdict.trimmed() : verdict;
+    }
 
 private slots:
     void init()
@@ -456,21 +459,23 @@ private slots:
     {
         SetValue("13");
         m_ear->Take();
-        WithDialog([] { Press(Qt::Key_H, Qt::AltModifier); },
-                   [this](QWidget& dialog) {
-                       const QString verdict = "Resultado incorrecto";
-                       const QStringList heard = Ear::TakeSoFar();
-                       QCOMPARE(heard.mid(0, heard.size() - 1), // the last is the box's button
-                                QStringList("FOCUS Command1") +
-                                    (ui::boxesCutMessagesOff ? QStringList() : QStringList("SAY " + verdict)));
-                       QVERIFY(heard.last().startsWith("FOCUS "));
-                       auto& label = const_cast<QLabel&>(Child<QLabel>(dialog, "qt_msgbox_label"));
-                       const QString told = QAccessible::queryAccessibleInterface(&label)->text(QAccessible::Name);
-                       QCOMPARE(told, (ui::boxesCutMessagesOff ? verdict + ". " : QString()) + WrongProduct(1, 13));
-                       QCOMPARE(Text("Text1"), verdict);
-                       QCOMPARE(Text("tbResultados"), "Ejercicios:  0; Errores:  0");
-                       QTest::keyClick(&dialog, Qt::Key_Return);
-                   });
+        WithDialog(
+            [] { Press(Qt::Key_H, Qt::AltModifier); },
+            [this](QWidget& dialog) {
+                const QString verdict = "Resultado incorrecto";
+                const QStringList heard = Ear::TakeSoFar();
+                QCOMPARE(heard.mid(0, heard.size() - 1), // the last is the box's button
+                         QStringList("FOCUS Command1") +
+                             (ui::ReaderHabits().boxesCutMessagesOff ? QStringList() : QStringList("SAY " + verdict)));
+                QVERIFY(heard.last().startsWith("FOCUS "));
+                auto& label = const_cast<QLabel&>(Child<QLabel>(dialog, "qt_msgbox_label"));
+                const QString told = QAccessible::queryAccessibleInterface(&label)->text(QAccessible::Name);
+                QCOMPARE(told,
+                         (ui::ReaderHabits().boxesCutMessagesOff ? verdict + ". " : QString()) + WrongProduct(1, 13));
+                QCOMPARE(Text("Text1"), verdict);
+                QCOMPARE(Text("tbResultados"), "Ejercicios:  0; Errores:  0");
+                QTest::keyClick(&dialog, Qt::Key_Return);
+            });
         QCOMPARE(Text("tbResultados"), "Ejercicios:  1; Errores:  1");
         Activate();
         QCOMPARE(Focus(), "Command1");

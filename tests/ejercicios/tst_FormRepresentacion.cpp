@@ -1,8 +1,8 @@
 #include "Draws.h"
 #include "FormRepresentacion.h"
+#include "Habits.h"
 #include "Reparto.h"
 #include "Screen.h"
-#include "Timing.h"
 
 #include <QClipboard>
 #include <QPlainTextEdit>
@@ -310,7 +310,7 @@ private slots:
             Part(part).setFocus();
             m_ear->Take();
             Press(Qt::Key_Space);
-            const QString name = ui::newNamesAreRead ? QString() : caption + "; ";
+            const QString name = ui::ReaderHabits().newNamesAreRead ? QString() : caption + "; ";
             QCOMPARE(Name(QString("CbParte(%1)").arg(part)), caption);
             QCOMPARE(m_ear->Take(), QStringList("SAY " + name + "partes coloreadas: " + count));
         };

@@ -1,7 +1,7 @@
+#include "Habits.h"
 #include "Look.h"
 #include "SampleForm.h"
 #include "Support.h"
-#include "Timing.h"
 
 #include <QAbstractButton>
 
@@ -136,7 +136,8 @@ private slots:
         ear.Take();
         // In focus a newer reader reads the name itself.
         QCOMPARE(renamed("1 - verde"),
-                 QStringList(ui::newNamesAreRead ? "partes coloreadas: 1" : "1 - verde; partes coloreadas: 1"));
+                 QStringList(ui::ReaderHabits().newNamesAreRead ? "partes coloreadas: 1"
+                                                                : "1 - verde; partes coloreadas: 1"));
     }
 
     void is_pressed_by_enter_by_space_and_by_the_mouse()
@@ -193,7 +194,7 @@ private slots:
         button.SetFocus();
         ear.Take();
         button.Caption("2 - rojo");
-        QCOMPARE(ear.TakeSaid(), ui::newNamesAreRead ? QStringList() : QStringList("2 - rojo"));
+        QCOMPARE(ear.TakeSaid(), ui::ReaderHabits().newNamesAreRead ? QStringList() : QStringList("2 - rojo"));
         button.Caption("2 - rojo"); // no new one
         QCOMPARE(ear.TakeSaid(), QStringList());
         m_form->The<ui::Button>("CbDos").Caption("3 - rojo"); // not in focus

@@ -1,7 +1,7 @@
 #include "Dialogs.h"
+#include "Habits.h"
 #include "SampleForm.h"
 #include "Support.h"
-#include "Timing.h"
 
 #include <QDialogButtonBox>
 #include <QInputDialog>
@@ -177,9 +177,10 @@ private slots:
                        QCOMPARE(dialog.parentWidget(), form.Window());
                        QTest::keyClick(&dialog, Qt::Key_Escape);
                    });
-        const QString withText = ui::boxesCutMessagesOff ? "Resultado incorrecto. " : "";
+        const QString withText = ui::ReaderHabits().boxesCutMessagesOff ? "Resultado incorrecto. " : "";
         QCOMPARE(told, QStringList({withText + "El producto", "El producto", "Otra cosa", "Otra cosa"}));
-        QCOMPARE(before, ui::boxesCutMessagesOff ? QStringList() : QStringList("SAY  Resultado incorrecto"));
+        QCOMPARE(before,
+                 ui::ReaderHabits().boxesCutMessagesOff ? QStringList() : QStringList("SAY  Resultado incorrecto"));
         form.Window()->activateWindow();
         QVERIFY(WaitActive(*form.Window()));
         QCOMPARE(ear.TakeSaid(), QStringList());
@@ -213,7 +214,7 @@ private slots:
         });
         look.start(1);
         WithDialog(open, [](QWidget& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
-        QCOMPARE(blocked, readerIsOn && ui::keysComeBesideTheProgram);
+        QCOMPARE(blocked, readerIsOn && ui::ReaderHabits().keysComeBesideTheProgram);
         QVERIFY(!closed);
     }
 

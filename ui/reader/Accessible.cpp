@@ -1,14 +1,15 @@
 #include "Accessible.h"
 
 #include "AccessibleLineEdit.h"
+#include "Habits.h"
 
 #include <QAccessible>
 #include <QAccessibleWidget>
 #include <QApplication>
 #include <QLineEdit>
 
-#if QT_VERSION < QT_VERSION_CHECK(6, 8, 0)
-#include "AccessibleBefore68.h"
+#ifdef Q_OS_LINUX
+#include "Notification.h"
 #endif
 
 namespace ui {
@@ -27,8 +28,8 @@ QAccessibleInterface* Interface(const QString&, QObject* object)
             return new QAccessibleWidget(widget, static_cast<QAccessible::Role>(role.toInt()));
         }
     }
-#if QT_VERSION < QT_VERSION_CHECK(6, 8, 0)
-    return InterfaceBefore68(object);
+#ifdef Q_OS_LINUX
+    return NotificationInterfaceOf(object);
 #else
     return nullptr;
 #endif
@@ -79,9 +80,13 @@ void SetRole(QWidget& widget, QAccessible::Role role)
 
 void Announce(QWidget& source, const QString& text)
 {
-#if QT_VERSION < QT_VERSION_CHECK(6, 8, 0)
-    ShowNotification(*source.window(), text);
-#else
+#ifdef Q_OS_LINUX
+    if (!ReaderHabits().takesAnnouncements) {
+        ShowNotification(*source.window(), text);
+        return;
+    }
+#endif
+#if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
     QAccessibleAnnouncementEvent event(&source, text); // polite, as it is constructed
     QAccessible::updateAccessibility(&event);
 #endif

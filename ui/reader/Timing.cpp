@@ -2,6 +2,7 @@
 
 #include "Accessible.h"
 #include "Announcer.h"
+#include "Habits.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -32,7 +33,7 @@ protected:
 void LetReaderCatchUp()
 {
     constexpr int moment = 50; // milliseconds, with which 16 of 16 boxes were read whole; without, about half
-    if (!keysComeBesideTheProgram || !QAccessible::isActive()) {
+    if (!ReaderHabits().keysComeBesideTheProgram || !QAccessible::isActive()) {
         return;
     }
     Blocker blocker;
@@ -53,14 +54,14 @@ void OnceFocusIsTold(QWidget& widget, std::function<void()> action)
 
 void SayNewName(QWidget& control, const QString& name)
 {
-    if (!newNamesAreRead && control.hasFocus()) {
+    if (!ReaderHabits().newNamesAreRead && control.hasFocus()) {
         Announcer::Instance().Say(control, name);
     }
 }
 
 void SayWithName(QWidget& control, const QString& name, const QString& more)
 {
-    const bool isRead = newNamesAreRead && control.hasFocus();
+    const bool isRead = ReaderHabits().newNamesAreRead && control.hasFocus();
     Announcer::Instance().Say(control, (isRead ? QString() : name + "; ") + more);
 }
 
@@ -84,7 +85,7 @@ QWidget* FocusTrace::Unheard() const
 
 void SayBeforeBox(QMessageBox& box, QWidget& screen, const QString& said)
 {
-    if (auto* label = boxesCutMessagesOff ? box.findChild<QLabel*>("qt_msgbox_label") : nullptr) {
+    if (auto* label = ReaderHabits().boxesCutMessagesOff ? box.findChild<QLabel*>("qt_msgbox_label") : nullptr) {
         label->setAccessibleName(said.trimmed() + ". " + box.text());
     } else {
         Announce(screen, said);
@@ -94,7 +95,7 @@ void SayBeforeBox(QMessageBox& box, QWidget& screen, const QString& said)
 void LetReaderHearKey()
 {
     constexpr unsigned long lead = 30; // milliseconds; with 15 none of 320 answers was cut off, without one in ten
-    if (keysComeBesideTheProgram && QAccessible::isActive()) {
+    if (ReaderHabits().keysComeBesideTheProgram && QAccessible::isActive()) {
         QThread::msleep(lead);
     }
 }

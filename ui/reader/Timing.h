@@ -14,22 +14,6 @@ class QMessageBox;
 
 namespace ui {
 
-// What is to be reckoned with of the screen readers of each platform. On Linux their age goes with that of Qt: Orca 43
-// came with Qt 6.4, Orca 48 with 6.8. macOS has not been tried.
-#if defined(Q_OS_WIN)
-inline constexpr bool newNamesAreRead = QT_VERSION >= QT_VERSION_CHECK(6, 11, 0);
-inline constexpr bool boxesCutMessagesOff = true;
-inline constexpr bool keysComeBesideTheProgram = false;
-#elif defined(Q_OS_MACOS)
-inline constexpr bool newNamesAreRead = false;
-inline constexpr bool boxesCutMessagesOff = true;
-inline constexpr bool keysComeBesideTheProgram = false;
-#else
-inline constexpr bool newNamesAreRead = QT_VERSION >= QT_VERSION_CHECK(6, 8, 0); // of the control in focus, by itself
-inline constexpr bool boxesCutMessagesOff = QT_VERSION >= QT_VERSION_CHECK(6, 8, 0); // that were said before they open
-inline constexpr bool keysComeBesideTheProgram = QT_VERSION >= QT_VERSION_CHECK(6, 8, 0); // and not by way of it
-#endif
-
 // Runs `change` on a box that is not in focus without a word to the screen reader. Qt tells of every caret and text;
 // where the focus follows at once, the screen reader takes that for the arrival in the box and says nothing of it, or
 // reads the new text as if it had been typed.

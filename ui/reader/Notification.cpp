@@ -1,4 +1,4 @@
-#include "AccessibleBefore68.h"
+#include "Notification.h"
 
 #include <QAccessible>
 #include <QAccessibleWidget>
@@ -78,7 +78,7 @@ public:
 
 } // namespace
 
-QAccessibleInterface* InterfaceBefore68(QObject* object)
+QAccessibleInterface* NotificationInterfaceOf(QObject* object)
 {
     if (auto* notification = qobject_cast<Notification*>(object)) {
         return new NotificationInterface(notification);
@@ -100,4 +100,4 @@ void ShowNotification(QWidget& window, const QString& text)
 
 } // namespace ui
 
-#include "AccessibleBefore68.moc"
+#include "Notification.moc"
