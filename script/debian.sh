@@ -49,8 +49,9 @@ exec chroot "$folder" /usr/bin/env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin HOME=/r
 INSIDE
 }
 
-# copy_tree FOLDER: copies this tree into that system.
+# copy_tree FOLDER: copies this tree into that system, in the place of what was there; what has been built there stays.
 copy_tree() {
     mkdir -p "$1/kelvora"
+    find "$1/kelvora" -mindepth 1 -maxdepth 1 ! -name build -exec rm -rf {} +
     (set -o pipefail && tar -c --exclude=./build --exclude=./.git . | tar -x -C "$1/kelvora") || fail "could not copy to $1"
 }

@@ -8,11 +8,15 @@
 #include "Timing.h"
 
 #include <QApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QFontDatabase>
 #include <QIcon>
 #include <QKeyEvent>
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QMutex>
+#include <QResource>
 #include <QThread>
 #include <QTranslator>
 #include <QWindow>
@@ -32,6 +36,25 @@ bool IsNewKey(const QObject& receiver, const QEvent& event)
 {
     return event.type() == QEvent::ShortcutOverride && receiver.isWindowType() && event.spontaneous() &&
            !static_cast<const QKeyEvent&>(event).isAutoRepeat();
+}
+
+// Where the program carries fonts, so that it looks the same on every system.
+constexpr const char* ownFonts = ":/fonts";
+
+void UseOwnFonts()
+{
+    if (!QFile::exists(ownFonts)) {
+        return;
+    }
+    for (const QFileInfo& file : QDir(ownFonts).entryInfoList()) {
+        const QResource font(file.filePath());
+        // The bytes of the program itself, not a copy of them.
+        QFontDatabase::addApplicationFontFromData(
+            QByteArray::fromRawData(reinterpret_cast<const char*>(font.data()), static_cast<qsizetype>(font.size())));
+    }
+    QFont type = QApplication::font(); // of menus and boxes, in the size that the desktop has
+    type.setFamilies({"DejaVu Sans"});
+    QApplication::setFont(type);
 }
 
 } // namespace
@@ -61,6 +84,7 @@ Application::Dispatch::Dispatch(int& argc, char** argv) : QApplication(argc, arg
     setApplicationName("Kelvora");
     setDesktopFileName("org.kelvora.kelvora");
     setWindowIcon(QIcon(":/kelvora.png")); // Wayland takes that of the desktop file
+    UseOwnFonts();
     // Told to the screen reader as the language of the application, whatever the desktop's is.
     QLocale::setDefault(QLocale(QLocale::Spanish, QLocale::Spain));
     // For Qt's own texts, such as the context menus of text boxes; a system without the file has them in English. On
@@ -167,6 +191,9 @@ private:
 Application::Application(int& argc, char** argv)
     : m_dispatch([&] {
           const Beginning beginning;
+          if (QFile::exists(ownFonts)) { // Qt without those of the system looks for a folder
+              qputenv("QT_QPA_FONTDIR", "/");
+          }
           return std::make_unique<Dispatch>(argc, argv);
       }())
 {

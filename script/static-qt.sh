@@ -1,0 +1,107 @@
+# A static Qt of Debian's own source, for the editions of the program that bring all they need. To be sourced by bash after
+# lib.sh, with `target`, the folder of the edition.
+
+qt=$target/qt # where it is
+
+step() { printf '[%s] %s\n' "$(date +%T)" "$*"; }
+
+# Of the lines of a build, those that come to another tenth of the whole.
+tenths() {
+    sed -u -n 's|^\[\([0-9]*\)/\([0-9]*\)\].*|\1 \2|p' |
+        while read -r done all; do
+            if [ $((10 * done / all)) -ne "${last:-0}" ]; then
+                last=$((10 * done / all))
+                step "  $done of $all"
+            fi
+        done
+}
+
+# run LOG COMMAND...: with all that it says in a log.
+run() {
+    local log=$target/$1.log
+    shift
+    "$@" >>"$log" 2>&1 </dev/null || { tail -n 20 "$log" >&2; fail "has failed ($log): $*"; }
+}
+
+# compile LOG FOLDER [TARGET...]: what has been configured there.
+compile() {
+    local log=$target/$1.log folder=$2
+    shift 2
+    cmake --build "$folder" ${1:+--target "$@"} 2>&1 </dev/null | tee -a "$log" | tenths
+    [ "${PIPESTATUS[0]}" -eq 0 ] || { tail -n 20 "$log" >&2; fail "does not build ($log): $folder"; }
+}
+
+# sources SUITE PACKAGE...: the source of these packages, as this Debian or another has it, by the signed lists of the archive.
+sources() {
+    local suite=$1 apt=$target/apt-$1
+    shift
+    step "Source of $*"
+    mkdir -p "$apt/lists/partial" "$target/source"
+    apt-get indextargets --format 'deb-src $(REPO_URI) $(RELEASE) main' 'Created-By: Packages' |
+        sed "s/ $(. /etc/os-release && echo "${VERSION_CODENAME:-sid}")\b/ $suite/" | sort -u >"$apt/sources.list"
+    local archive=(apt-get -o "Dir::Etc::SourceList=$apt/sources.list" -o Dir::Etc::SourceParts=-
+        -o "Dir::State::Lists=$apt/lists" -o "APT::Sandbox::User=$(id -un)")
+    run source "${archive[@]}" update
+    (cd "$target/source" && run source "${archive[@]}" source --download-only --only-source "$@") || exit 1
+}
+
+# source_of PACKAGE: the file that describes its source.
+source_of() { echo "$target/source/$1"_*.dsc; }
+
+# unpack PACKAGE FOLDER [PATCH...]: its source as Debian has it, with these patches. What is there already stays.
+unpack() {
+    local package=$1 folder=$2 patch
+    shift 2
+    [ ! -d "$folder" ] || return
+    rm -rf "$folder.new"
+    mkdir -p "$(dirname "$folder")"
+    run qt dpkg-source --no-check --extract "$(source_of "$package")" "$folder.new"
+    for patch in "$@"; do
+        run qt patch -d "$folder.new" -p1 -i "$patch"
+    done
+    mv "$folder.new" "$folder"
+}
+
+# keep_qt KEY FUNCTION: what FUNCTION leaves in $qt, from when it did so with the same key, where it has. It works in $work,
+# where what has been interrupted goes on.
+keep_qt() {
+    local kept=$target/qt-$1.tar.xz work=$target/work-$1
+    if [ ! -f "$kept" ]; then
+        step 'A static Qt: half an hour or more'
+        rm -rf "$qt"
+        "$2"
+        run qt tar -C "$target" -c -J -f "$kept.new" qt
+        mv "$kept.new" "$kept"
+        rm -rf "$work"
+    fi
+    if [ "$(cat "$qt/key" 2>/dev/null)" != "$1" ]; then
+        rm -rf "$qt"
+        run qt tar -C "$target" -x -f "$kept"
+        echo "$1" >"$qt/key"
+    fi
+}
+
+# Of Qt's own source; what only one edition needs, or leaves out, it says itself.
+qt_options=(
+    -DCMAKE_BUILD_TYPE=Release -DBUILD_SHARED_LIBS=OFF -DQT_UNITY_BUILD=ON -DQT_GENERATE_SBOM=OFF
+    "-DCMAKE_INSTALL_PREFIX=$qt" -DQT_BUILD_EXAMPLES=OFF -DQT_BUILD_TESTS=OFF -DQT_BUILD_BENCHMARKS=OFF
+    -DFEATURE_accessibility=ON
+    -DFEATURE_sql=OFF -DFEATURE_network=OFF -DFEATURE_xml=OFF -DFEATURE_concurrent=OFF -DFEATURE_printsupport=OFF
+    -DINPUT_opengl=no -DFEATURE_opengl=OFF -DFEATURE_vulkan=OFF -DFEATURE_icu=OFF -DFEATURE_glib=OFF -DFEATURE_zstd=OFF
+    -DFEATURE_fontconfig=OFF
+    -DFEATURE_system_zlib=OFF -DFEATURE_system_png=OFF -DFEATURE_system_jpeg=OFF -DFEATURE_system_pcre2=OFF
+    -DFEATURE_system_freetype=OFF -DFEATURE_system_harfbuzz=OFF -DFEATURE_system_doubleconversion=OFF
+)
+
+# The licences of what is linked into the program and of the compiler's own libraries: licences FOLDER PACKAGE... copies the
+# texts of packages that are installed, and of Qt.
+licences() {
+    local folder=$1 package
+    shift
+    mkdir -p "$folder"
+    tar -x -O -f "$(echo "$target"/source/qt6-base_*.debian.tar.xz)" debian/copyright >"$folder/qt.txt" || fail "there are no licences of Qt"
+    for package in "$@"; do
+        cp "/usr/share/doc/$package/copyright" "$folder/${package%%-dev}.txt" || fail "there is no licence of $package"
+    done
+    cp /usr/share/common-licenses/LGPL-3 "$folder/LGPL-3.txt" || fail "there is no LGPL"
+}
