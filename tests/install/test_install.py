@@ -15,11 +15,12 @@ import xml.etree.ElementTree
 import gi
 
 gi.require_version("GdkPixbuf", "2.0")
-from gi.repository import GdkPixbuf
+from gi.repository import GdkPixbuf, Gio
 
 sys.path.insert(0, str(pathlib.Path(__file__).parent.parent / "support"))
-from desktop import LIMIT, Desktop
+from desktop import LIMIT, Desktop, wait_for
 
+SOURCE = pathlib.Path(__file__).parents[2]
 ID = "org.kelvora.kelvora"
 
 
@@ -76,7 +77,7 @@ class Installed(unittest.TestCase):
 
     def test_the_icon_of_the_windows_is_the_same(self):
         installed = self.share / f"icons/hicolor/64x64/apps/{ID}.png"
-        carried = pathlib.Path(__file__).parents[2] / "ui/widgets/kelvora.png"
+        carried = SOURCE / "ui/widgets/kelvora.png"
         one, other = (GdkPixbuf.Pixbuf.new_from_file(str(path)).get_pixels() for path in (installed, carried))
         self.assertEqual(len(one), len(other))
         self.assertLess(max(abs(a - b) for a, b in zip(one, other)), 16)  # librsvg may round otherwise another time
@@ -108,6 +109,26 @@ class Installed(unittest.TestCase):
         for alternative in page.pictures.values():
             self.assertGreater(len(alternative), 40)
         self.assertEqual({link.removeprefix("#") for link in page.links} - page.names, set())
+
+    def test_the_portable_edition_enters_the_menu_and_leaves_it(self):
+        folder = self.root.parent / 'Kelvora de "Ñ" por $5 en `C:\\`'  # all that means something in a menu entry
+        home = self.root.parent / "home"
+        shutil.copytree(self.share, folder / "share")
+        for script in (SOURCE / "data/portable").iterdir():
+            shutil.copy(script, folder)
+        (folder / "kelvora").write_text(f'#!/bin/sh\necho started >"{home}/started"\n')
+        (folder / "kelvora").chmod(0o755)
+        environment = os.environ | {"XDG_DATA_HOME": str(home)}
+
+        self.assertEqual(output(folder / "instalar", env=environment), "Kelvora está en el menú de aplicaciones.\n")
+        entry = home / f"applications/{ID}.desktop"
+        self.assertEqual(output("desktop-file-validate", entry), "")
+        self.assertTrue((home / f"icons/hicolor/64x64/apps/{ID}.png").exists())
+        self.assertTrue(Gio.DesktopAppInfo.new_from_filename(str(entry)).launch([], None))
+        wait_for((home / "started").exists, "the program")
+
+        self.assertEqual(output(folder / "desinstalar", env=environment), "Kelvora ya no está en el menú de aplicaciones.\n")
+        self.assertEqual([path for path in home.rglob("*") if path.is_file()], [home / "started"])
 
     def test_the_program_runs_from_its_folder(self):
         desktop = Desktop()
