@@ -13,7 +13,6 @@
 #include <QLineEdit>
 #include <QMainWindow>
 #include <QMessageBox>
-#include <QPointer>
 #include <QPushButton>
 #include <QTimer>
 
@@ -128,13 +127,11 @@ int main(int argc, char** argv)
         form = std::make_unique<ejercicios::FormFactores>();
         act = way == "dividing twice" ? DivideByTooMuchTwice : DivideByTooMuch;
     }
-    const QPointer<QMainWindow> window = &form->Window();
+    QMainWindow* window = &form->Window();
     ui::Form::Open(std::move(form), ui::Modality::Modeless);
-    QTimer::singleShot(0, window.data(), [window, act] {
+    QTimer::singleShot(0, window, [window, act] {
         support::WaitActive(*window);
         act(*window);
     });
-    const int status = application.Run();
-    delete window; // what a window's fonts hold would count as leaked
-    return status;
+    return application.Run();
 }

@@ -203,7 +203,11 @@ Application::~Application() = default;
 
 int Application::Run()
 {
-    return Dispatch::exec();
+    const int status = Dispatch::exec();
+    QWidgetList windows = QApplication::topLevelWidgets(); // open still, where a fatal error is the end
+    windows.removeIf([](const QWidget* window) { return window->parent() != nullptr; });
+    qDeleteAll(windows);
+    return status;
 }
 
 void End()

@@ -22,7 +22,7 @@ constexpr Habits ofMac{.takesAnnouncements = true,
                        .keysComeBesideTheProgram = false};
 #else
 constexpr Habits ofOrca43{.takesAnnouncements = false,
-                          .newNamesAreRead = false,
+                          .newNamesAreRead = QT_VERSION >= QT_VERSION_CHECK(6, 8, 0), // before, Qt tells of none
                           .boxesCutMessagesOff = false,
                           .keysComeBesideTheProgram = false};
 #if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
