@@ -40,8 +40,10 @@ DISPLAYS = {"x11": X11, "gnome": lambda: X11(XDG_CURRENT_DESKTOP="GNOME"), "mutt
 
 DISPLAY = os.environ.get("KELVORA_DISPLAY", "x11")
 
-# The reader before Orca 46, which takes no announcements: Debian 12's.
-OLD = int(re.search(r"\d+", subprocess.check_output(["/usr/bin/orca", "--version"], text=True))[0]) < 46
+# The reader before Orca 46, which takes no announcements: Debian 12's. It is not asked itself, since before it says its
+# version it may start an accessibility bus, in the way of that of the lesson.
+OLD = int(re.search(r'^version *= "(\d+)', pathlib.Path("/usr/lib/python3/dist-packages/orca/orca_platform.py").read_text(),
+                    re.MULTILINE)[1]) < 46
 
 # The reader's commands for the title of a window and for where one is, in full. Where the machine stands still, a key that
 # the reader does not claim in time is the program's: the reader's own Insert+KP_Enter would press the button in focus; and
