@@ -13,6 +13,9 @@ says() {
     if [ "${language:-en}" = es ]; then printf '%s' "$1"; else printf '%s' "$2"; fi
 }
 
+# Version and day of the newest release.
+read -r version day <<<"$(sed -n 's/^## \[\(.*\)\] - \(.*\)/\1 \2/p' CHANGELOG.md | head -n 1)"
+
 fail() {
     printf 'kelvora: %s\n' "$*" >&2
     exit 1

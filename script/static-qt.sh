@@ -31,6 +31,15 @@ compile() {
     [ "${PIPESTATUS[0]}" -eq 0 ] || { tail -n 20 "$log" >&2; fail "does not build ($log): $folder"; }
 }
 
+# installed NAME BUILD: what a build installs, in the folder $target/NAME, as if all were as old as the release, so that an
+# archive of the same files is the same.
+installed() {
+    rm -rf "${target:?}/$1"
+    run kelvora cmake --install "$2" --strip --prefix "$target/$1"
+    chmod -R u=rwX,go=rX "$target/$1"
+    find "$target/$1" -exec touch --no-dereference --date="$day UTC" {} +
+}
+
 # sources SUITE PACKAGE...: the source of these packages, as this Debian or another has it, by the signed lists of the archive.
 sources() {
     local suite=$1 apt=$target/apt-$1
