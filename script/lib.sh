@@ -2,7 +2,7 @@
 # top of the project.
 
 # The folders of the program's source.
-folders=($(sed -n 's/^add_subdirectory(\(.*\))$/\1/p' CMakeLists.txt))
+mapfile -t folders < <(sed -n 's/^add_subdirectory(\(.*\))$/\1/p' CMakeLists.txt)
 
 # What makes the next run quicker and is never needed.
 cache=${XDG_CACHE_HOME:-${HOME:-/nonexistent}/.cache}/kelvora

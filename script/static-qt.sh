@@ -8,10 +8,10 @@ step() { printf '[%s] %s\n' "$(date +%T)" "$*"; }
 # Of the lines of a build, those that come to another tenth of the whole.
 tenths() {
     sed -u -n 's|^\[\([0-9]*\)/\([0-9]*\)\].*|\1 \2|p' |
-        while read -r done all; do
-            if [ $((10 * done / all)) -ne "${last:-0}" ]; then
-                last=$((10 * done / all))
-                step "  $done of $all"
+        while read -r built all; do
+            if [ $((10 * built / all)) -ne "${last:-0}" ]; then
+                last=$((10 * built / all))
+                step "  $built of $all"
             fi
         done
 }
@@ -48,10 +48,10 @@ sources() {
     mkdir -p "$apt/lists/partial" "$target/source"
     apt-get indextargets --format 'deb-src $(REPO_URI) $(RELEASE) main' 'Created-By: Packages' |
         sed "s/ $(. /etc/os-release && echo "${VERSION_CODENAME:-sid}")\b/ $suite/" | sort -u >"$apt/sources.list"
-    local archive=(apt-get -o "Dir::Etc::SourceList=$apt/sources.list" -o Dir::Etc::SourceParts=-
+    local apt_get=(apt-get -o "Dir::Etc::SourceList=$apt/sources.list" -o Dir::Etc::SourceParts=-
         -o "Dir::State::Lists=$apt/lists" -o "APT::Sandbox::User=$(id -un)")
-    run source "${archive[@]}" update
-    (cd "$target/source" && run source "${archive[@]}" source --download-only --only-source "$@") || exit 1
+    run source "${apt_get[@]}" update
+    (cd "$target/source" && run source "${apt_get[@]}" source --download-only --only-source "$@") || exit 1
 }
 
 # source_of PACKAGE: the file that describes its source.

@@ -12,6 +12,7 @@ from session import DISPLAY, OLD, SUPPORT, TITLE_KEY, WHERE_KEY, Session
 # That of this build, or another one with its own Qt.
 PROGRAM = os.environ.get("KELVORA_INSTEAD", os.environ["KELVORA"])
 QT = tuple(int(part) for part in os.environ.get("KELVORA_INSTEAD_QT", os.environ["KELVORA_QT"]).split(".")[:2])
+NAMES_ARE_READ = QT >= (6, 8)  # of controls in focus, when they change: older versions of Qt tell of none
 
 UNITS = ("cero un dos tres cuatro cinco seis siete ocho nueve diez once doce trece catorce quince dieciséis "
          "diecisiete dieciocho diecinueve veinte").split()
@@ -117,8 +118,8 @@ def button(name):
 
 
 def renamed(name):
-    """A button in focus that gets another caption. Newer versions of Qt tell of that; the older reader then says it alone."""
-    return button(name) if not OLD else [name] if QT >= (6, 8) else said(name)
+    """A button in focus that gets another caption, where such are read."""
+    return [name] if OLD else button(name)
 
 
 def group(name):
