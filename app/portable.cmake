@@ -1,8 +1,9 @@
-# What the program for any Linux carries in itself: Qt's part for Wayland, and the fonts, whose files are taken as they are,
-# without being unpacked into the memory of each program.
+# What the program for any Linux carries in itself: Qt's parts for Wayland and for input methods, and the fonts, whose files
+# are taken as they are, without being unpacked into the memory of each program.
 find_package(Qt6 REQUIRED COMPONENTS WaylandClient)
 target_link_libraries(kelvora PRIVATE Qt6::WaylandClient)
 qt_import_plugins(kelvora INCLUDE
+    Qt6::QComposePlatformInputContextPlugin Qt6::QIbusPlatformInputContextPlugin
     Qt6::QWaylandIntegrationPlugin Qt6::QWaylandXdgShellIntegrationPlugin Qt6::QWaylandBradientDecorationPlugin)
 
 set(fonts

@@ -1,7 +1,8 @@
-"""How long the program takes from its start to its window, and how much memory it takes, beside a bare window and two
-programs of other makers, in turns and in one run; with an accessibility bus and without.
+"""How long the program takes from its start to its window, by the clock and of the processors, and how much memory it takes,
+beside a bare window, two programs of other makers and perhaps more, in turns and in one run; with an accessibility bus and
+without.
 
-Arguments: the program and the bare window.
+Arguments: the program and the bare window, and more as NAME=PROGRAM.
 """
 
 import pathlib
@@ -49,16 +50,25 @@ def open_program(desktop, events, *command):
     raise RuntimeError(f"{command[0]} shows no window")
 
 
-def memory(child):
-    """Proportional set size in MiB, of a process and of those that it has started."""
-    kib, waiting = 0, [child.pid]
+def processes(child):
+    """The folders in which the kernel tells of a process and of those that it has started."""
+    waiting = [child.pid]
     while waiting:
-        pid = waiting.pop()
-        proc = pathlib.Path(f"/proc/{pid}")
-        kib += sum(int(line.split()[1]) for line in (proc / "smaps_rollup").read_text().splitlines()
-                   if line.startswith("Pss:"))
-        waiting += map(int, (proc / f"task/{pid}/children").read_text().split())
-    return kib / 1024
+        proc = pathlib.Path(f"/proc/{waiting.pop()}")
+        yield proc
+        waiting += map(int, (proc / f"task/{proc.name}/children").read_text().split())
+
+
+def memory(child, kind="Pss"):
+    """MiB of a process and of those that it has started: their proportional set, or what the kernel counts as another kind."""
+    return sum(int(line.split()[1]) for proc in processes(child) for line in (proc / "smaps_rollup").read_text().splitlines()
+               if line.startswith(f"{kind}:")) / 1024
+
+
+def processor_time(child):
+    """Milliseconds that its threads have been running until now."""
+    return sum(int((thread / "schedstat").read_text().split()[0]) for proc in processes(child)
+               for thread in (proc / "task").iterdir()) / 1e6
 
 
 def open_modeless(desktop):
@@ -72,30 +82,33 @@ def open_modeless(desktop):
 
 
 def table(title, unit, rows):
-    """Each program's median, and the ratios of ours to it, run by run."""
-    print(f"\n{title:34}{unit:>8}{'Kelvora to it: min':>22}{'median':>8}{'max':>8}")
+    """Of each program's values the least, the median and the greatest, and of the ratios of ours to it, run by run."""
+    print(f"\n{title:62}{unit}{'Kelvora to it':>24}")
     for name, values in rows.items():
-        ratios = [own / value for own, value in zip(rows["Kelvora"], values)]
-        print(f"{name:34}{statistics.median(values):8.1f}{min(ratios):22.2f}{statistics.median(ratios):8.2f}{max(ratios):8.2f}")
+        ratios = [ours / value for ours, value in zip(rows["Kelvora"], values)]
+        figures = "".join(f"{figure(values):8.1f}" for figure in (min, statistics.median, max))
+        print(f"{name:34}{figures}    {''.join(f'{figure(ratios):8.2f}' for figure in (min, statistics.median, max))}")
 
 
-def main(program, bare):
+def main(program, bare, *others):
     commands = {"Kelvora": [program], "bare window": [bare], "kbruch": ["kbruch"], "jfractionlab": ["JFractionLab"]}
+    commands |= {name: [other] for name, other in (other.split("=") for other in others)}
     for bus in (True, False):
         desktop = Desktop(LANG="C.UTF-8", NO_AT_BRIDGE="0" if bus else "1")
         events = Display(desktop.env["DISPLAY"])
         try:
             if bus:
                 start_bus(desktop)
-            times = {name: [] for name in commands}
-            sizes = {name: [] for name in commands}
+            times, busy, sizes, own = ({name: [] for name in commands} for _ in range(4))
             for run in range(RUNS):
                 for name, command in commands.items():
                     elapsed, child = open_program(desktop, events, *command)
                     times[name].append(elapsed)
+                    busy[name].append(processor_time(child))
                     if run < 3:
                         time.sleep(2)  # until it has settled
                         sizes[name].append(memory(child))
+                        own[name].append(memory(child, "Private_Dirty"))
                         if name == "Kelvora":
                             open_modeless(desktop)
                             time.sleep(1)
@@ -104,7 +117,9 @@ def main(program, bare):
                     time.sleep(0.1)
             where = "with an accessibility bus" if bus else "without an accessibility bus"
             table(f"Start, {where}", "ms", times)
+            table(f"Processor time to the window, {where}", "ms", busy)
             table(f"Memory, {where}", "MiB", sizes)
+            table(f"Memory written to, {where}", "MiB", own)
         finally:
             events.close()
             desktop.close()
