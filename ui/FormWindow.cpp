@@ -52,6 +52,7 @@ QMainWindow* Form::FrontWindow()
 Form::FormWindow::FormWindow(Form& screen) : m_screen(screen)
 {
     setAttribute(Qt::WA_DeleteOnClose);
+    setAttribute(Qt::WA_Hover, false); // a Qt without docks would paint all anew when the pointer comes or goes
     setCentralWidget(new QWidget);
     centralWidget()->setMinimumSize(1, 1);
     m_patience.setSingleShot(true);

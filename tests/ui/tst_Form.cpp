@@ -58,6 +58,12 @@ private slots:
         QCOMPARE(QAccessible::queryAccessibleInterface(m_window)->role(), QAccessible::Window);
     }
 
+    void is_not_painted_anew_when_the_pointer_comes()
+    {
+        Open();
+        QVERIFY(!m_window->testAttribute(Qt::WA_Hover)); // upon which a Qt without docks paints it
+    }
+
     void a_screen_without_menus_has_no_menu_bar()
     {
         Make({});

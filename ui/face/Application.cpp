@@ -9,7 +9,7 @@
 
 #include <QApplication>
 #include <QDir>
-#include <QFileInfo>
+#include <QFile>
 #include <QFontDatabase>
 #include <QIcon>
 #include <QKeyEvent>
@@ -39,15 +39,15 @@ bool IsNewKey(const QObject& receiver, const QEvent& event)
 }
 
 // Where the program carries fonts, so that it looks the same on every system.
-constexpr const char* ownFonts = ":/fonts";
+constexpr const char* ownFonts = ":/fonts/";
 
 void UseOwnFonts()
 {
     if (!QFile::exists(ownFonts)) {
         return;
     }
-    for (const QFileInfo& file : QDir(ownFonts).entryInfoList()) {
-        const QResource font(file.filePath());
+    for (const QString& file : QDir(ownFonts).entryList()) {
+        const QResource font(ownFonts + file);
         // The bytes of the program itself, not a copy of them.
         QFontDatabase::addApplicationFontFromData(
             QByteArray::fromRawData(reinterpret_cast<const char*>(font.data()), static_cast<qsizetype>(font.size())));
@@ -191,9 +191,6 @@ private:
 Application::Application(int& argc, char** argv)
     : m_dispatch([&] {
           const Beginning beginning;
-          if (QFile::exists(ownFonts)) { // Qt without those of the system looks for a folder
-              qputenv("QT_QPA_FONTDIR", "/");
-          }
           return std::make_unique<Dispatch>(argc, argv);
       }())
 {
