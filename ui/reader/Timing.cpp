@@ -54,14 +54,14 @@ void OnceFocusIsTold(QWidget& widget, std::function<void()> action)
 
 void SayNewName(QWidget& control, const QString& name)
 {
-    if (!ReaderHabits().newNamesAreRead && control.hasFocus()) {
+    if (control.hasFocus() && !ReaderHabits().newNamesAreRead) { // to ask for the habits takes a moment
         Announcer::Instance().Say(control, name);
     }
 }
 
 void SayWithName(QWidget& control, const QString& name, const QString& more)
 {
-    const bool isRead = ReaderHabits().newNamesAreRead && control.hasFocus();
+    const bool isRead = control.hasFocus() && ReaderHabits().newNamesAreRead;
     Announcer::Instance().Say(control, (isRead ? QString() : name + "; ") + more);
 }
 
