@@ -42,7 +42,7 @@ installed() {
 
 # sources SUITE PACKAGE...: the source of these packages, as this Debian or another has it, by the signed lists of the archive.
 sources() {
-    local suite=$1 apt=$target/apt-$1
+    local suite=$1 apt=$target/apt-$1 package
     shift
     step "Source of $*"
     mkdir -p "$apt/lists/partial" "$target/source"
@@ -51,6 +51,7 @@ sources() {
     local apt_get=(apt-get -o "Dir::Etc::SourceList=$apt/sources.list" -o Dir::Etc::SourceParts=-
         -o "Dir::State::Lists=$apt/lists" -o "APT::Sandbox::User=$(id -un)")
     run source "${apt_get[@]}" update
+    for package in "$@"; do rm -f "$target/source/${package}"_*.dsc; done # of another version
     (cd "$target/source" && run source "${apt_get[@]}" source --download-only --only-source "$@") || exit 1
 }
 
@@ -103,14 +104,26 @@ qt_options=(
 )
 
 # The licences of what is linked into the program and of the compiler's own libraries: licences FOLDER PACKAGE... copies the
-# texts of packages that are installed, and of Qt.
+# texts of packages that are installed, and of Qt, and says of which sources the program has been made and how it can be
+# made again.
 licences() {
     local folder=$1 package
     shift
+    rm -rf "$folder"
     mkdir -p "$folder"
     tar -x -O -f "$(echo "$target"/source/qt6-base_*.debian.tar.xz)" debian/copyright >"$folder/qt.txt" || fail "there are no licences of Qt"
     for package in "$@"; do
         cp "/usr/share/doc/$package/copyright" "$folder/${package%%-dev}.txt" || fail "there is no licence of $package"
     done
     cp /usr/share/common-licenses/LGPL-3 "$folder/LGPL-3.txt" || fail "there is no LGPL"
+    cat >"$folder/LEEME.txt" <<END
+Aquí están las licencias de lo que Kelvora lleva dentro. Se ha hecho con estos paquetes fuente de Debian, que los
+conserva todos en su archivo:
+
+$({ for package in "$target"/source/*.dsc; do basename "$package" .dsc | tr _ ' '; done
+    dpkg-query -W -f='${source:Package} ${source:Version}\n' "$@"; } | sort -u)
+
+Quien quiera otra Qt, o esta con cambios, tiene en el código fuente de Kelvora todo lo necesario: script/${0##*/} construye
+Qt y el programa otra vez.
+END
 }

@@ -54,6 +54,10 @@ class Steps(unittest.TestCase):
             places.append(found.start())
         self.assertEqual(places, sorted(places), calls)
         self.assertIn("Done", said)
+        sources = (self.tree / "build/portable/licencias/LEEME.txt").read_text()
+        for package in "libxkbcommon", "dbus", "wayland", "qt6-base", "qt6-wayland":
+            self.assertIn(f"\n{package} 1\n", sources)
+        self.assertIn("script/portable construye", sources)
         for library in "xcb", "xkbcommon", "dbus-1", "wayland-client":
             self.assertRegex((self.libraries / f"lib{library}.so").read_text(), rf"^GROUP \( .*lib{library}\.a")
 
