@@ -4,6 +4,9 @@
 # The folders of the program's source.
 mapfile -t folders < <(sed -n 's/^add_subdirectory(\(.*\))$/\1/p' CMakeLists.txt)
 
+# The system whose packages are meant, as "debian 12" or "ubuntu 24.04"; a Debian in the making has no number.
+: "${os:=$(. /etc/os-release && echo "$ID${VERSION_ID:+ $VERSION_ID}")}"
+
 # What makes the next run quicker and is never needed.
 cache=${XDG_CACHE_HOME:-${HOME:-/nonexistent}/.cache}/kelvora
 mkdir -p "$cache" 2>/dev/null || cache=$(mktemp -d)
@@ -53,9 +56,7 @@ need() {
 
 build_packages=(g++ cmake ninja-build qt6-base-dev qt6-base-dev-tools libgl-dev)
 run_packages=(qt6-translations-l10n fonts-liberation fonts-dejavu-core fonts-comic-neue at-spi2-core)
-if [ "${debian:-$(. /etc/os-release && echo "${VERSION_ID:-13}")}" -ge 13 ]; then
-    run_packages+=(fonts-liberation-sans-narrow) # before, in fonts-liberation
-fi
+[ "$os" = 'debian 12' ] || run_packages+=(fonts-liberation-sans-narrow) # there a part of fonts-liberation
 test_packages=(ccache qt6-base-private-dev strace xvfb openbox xdotool dbus-daemon locales python3 orca speech-dispatcher
     speech-dispatcher-audio-plugins python3-speechd python3-pyatspi x11-utils
     pandoc librsvg2-bin desktop-file-utils appstream tidy man-db libbenchmark-dev libicu-dev
