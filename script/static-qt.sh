@@ -77,12 +77,12 @@ unpack() {
 keep_qt() {
     local kept=$target/qt-$1.tar.xz work=$target/work-$1
     if [ ! -f "$kept" ]; then
-        step 'A static Qt: half an hour or more'
+        step 'A static Qt: a quarter of an hour to an hour'
         rm -rf "$qt"
         "$2"
         run qt tar -C "$target" -c -J -f "$kept.new" qt
         mv "$kept.new" "$kept"
-        rm -rf "$work"
+        find "$target" -maxdepth 1 \( -name 'work-*' -o -name 'qt-*.tar.xz' \) ! -path "$kept" -exec rm -rf {} +
     fi
     if [ "$(cat "$qt/key" 2>/dev/null)" != "$1" ]; then
         rm -rf "$qt"
@@ -107,20 +107,23 @@ qt_options=(
 # texts of packages that are installed, and of Qt, and says of which sources the program has been made and how it can be
 # made again.
 licences() {
-    local folder=$1 package
+    local folder=$1 package source name
     shift
     rm -rf "$folder"
     mkdir -p "$folder"
-    tar -x -O -f "$(echo "$target"/source/qt6-base_*.debian.tar.xz)" debian/copyright >"$folder/qt.txt" || fail "there are no licences of Qt"
+    for source in "$target"/source/qt6-*.dsc; do
+        name=${source##*/}
+        tar -x -O -f "${source%.dsc}.debian.tar.xz" debian/copyright >"$folder/${name%%_*}.txt" || fail "there is no licence in $source"
+    done
     for package in "$@"; do
         cp "/usr/share/doc/$package/copyright" "$folder/${package%%-dev}.txt" || fail "there is no licence of $package"
     done
     cp /usr/share/common-licenses/LGPL-3 "$folder/LGPL-3.txt" || fail "there is no LGPL"
     cat >"$folder/LEEME.txt" <<END
-Aquí están las licencias de lo que Kelvora lleva dentro. Se ha hecho con estos paquetes fuente de Debian, que los
-conserva todos en su archivo:
+Aquí están las licencias de lo que Kelvora lleva dentro. Kelvora se ha construido a partir de estos paquetes fuente de
+Debian, que se conservan en snapshot.debian.org:
 
-$({ for package in "$target"/source/*.dsc; do basename "$package" .dsc | tr _ ' '; done
+$({ for source in "$target"/source/*.dsc; do basename "$source" .dsc | tr _ ' '; done
     dpkg-query -W -f='${source:Package} ${source:Version}\n' "$@"; } | sort -u)
 
 Quien quiera otra Qt, o esta con cambios, tiene en el código fuente de Kelvora todo lo necesario: script/${0##*/} construye

@@ -111,7 +111,7 @@ class Installed(unittest.TestCase):
         self.assertEqual({link.removeprefix("#") for link in page.links} - page.names, set())
 
     def test_the_portable_edition_enters_the_menu_and_leaves_it(self):
-        folder = self.root.parent / 'Kelvora de "Ñ" por $5 en `C:\\`'  # all that means something in a menu entry
+        folder = self.root.parent / 'Kelvora de "Ñ" por $5 al 100%u en `C:\\`'  # all that means something in a menu entry
         home = self.root.parent / "home"
         shutil.copytree(self.share, folder / "share")
         for script in (SOURCE / "data/portable").iterdir():

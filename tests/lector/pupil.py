@@ -3,15 +3,12 @@ what every lesson does.
 """
 
 import json
-import os
 import re
 import unittest
 
 from session import DISPLAY, OLD, SUPPORT, TITLE_KEY, WHERE_KEY, Session
+from edition import PROGRAM, QT  # beside what the session has made known
 
-# That of this build, or another one with its own Qt.
-PROGRAM = os.environ.get("KELVORA_INSTEAD", os.environ["KELVORA"])
-QT = tuple(int(part) for part in os.environ.get("KELVORA_INSTEAD_QT", os.environ["KELVORA_QT"]).split(".")[:2])
 NAMES_ARE_READ = QT >= (6, 8)  # of controls in focus, when they change: older versions of Qt tell of none
 
 UNITS = ("cero un dos tres cuatro cinco seis siete ocho nueve diez once doce trece catorce quince dieciséis "

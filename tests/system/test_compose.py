@@ -1,12 +1,12 @@
 """Characters that take several keys, as a Spanish keyboard has them: no box asks for one, but what is typed is to stand there."""
 
-import os
 import pathlib
 import sys
 import unittest
 
 sys.path.insert(0, str(pathlib.Path(__file__).parent.parent / "support"))
 from desktop import AccessibleDesktop, wait_for
+from edition import PROGRAM
 
 SUM = "SUMA DE FRACCIONES"
 
@@ -16,7 +16,7 @@ class Compose(unittest.TestCase):
         desktop = AccessibleDesktop(LANG="C.UTF-8")
         self.addCleanup(desktop.close)
         desktop.output("setxkbmap", "es")
-        desktop.start(os.environ.get("KELVORA_INSTEAD", os.environ["KELVORA"]))
+        desktop.start(PROGRAM)
         desktop.wait_window("KELVORA")
         desktop.press(*["Tab"] * 6, "Return")
         desktop.wait_window(SUM)

@@ -2,7 +2,6 @@
 by a notification.
 """
 
-import os
 import pathlib
 import sys
 import unittest
@@ -10,32 +9,56 @@ import unittest
 SUPPORT = pathlib.Path(__file__).parent.parent / "support"
 sys.path.insert(0, str(SUPPORT))
 from desktop import AccessibleDesktop, wait_for
+from edition import PROGRAM, QT
 
-QT = tuple(int(part) for part in os.environ["KELVORA_QT"].split(".")[:2])
+OLD = ["object:state-changed"]
+OF_TODAY = ["object:state-changed", "object:announcement"]
+AS_OF_TODAY = "announcement" if QT >= (6, 8) else "notification"
 
 
 class Readers(unittest.TestCase):
-    def tell(self, *events):
-        """How a reader that has asked for these events is told the first exercise of the sum."""
-        desktop = AccessibleDesktop()
-        self.addCleanup(desktop.close)
-        heard = desktop.home / "heard"
-        with open(heard, "w") as file:
-            desktop.start("/usr/bin/python3", str(SUPPORT / "listener.py"), *events, stdout=file)
-        wait_for(lambda: heard.read_text().startswith("listening\n"), "the reader")
-        desktop.start(os.environ["KELVORA"])
-        desktop.wait_window("KELVORA")
-        desktop.press(*["Tab"] * 6, "Return")
-        way, text = wait_for(lambda: heard.read_text().splitlines()[1:2], "a message")[0].split(" ", 1)
+    def setUp(self):
+        self.desktop = AccessibleDesktop()
+        self.addCleanup(self.desktop.close)
+        self.heard = self.desktop.home / "heard"
+
+    def start_reader(self, events):
+        with open(self.heard, "w") as file:
+            reader = self.desktop.start("/usr/bin/python3", str(SUPPORT / "listener.py"), *events, stdout=file)
+        wait_for(lambda: self.heard.read_text().startswith("listening\n"), "the reader")
+        return reader
+
+    def open_sum(self):
+        self.desktop.start(PROGRAM)
+        self.desktop.wait_window("KELVORA")
+        self.desktop.press(*["Tab"] * 6, "Return")
+        self.desktop.wait_window("SUMA DE FRACCIONES")
+
+    def expect_exercise(self, way):
+        """The first message after the reader's start is the exercise of the sum, told in this way."""
+        told, text = wait_for(lambda: self.heard.read_text().splitlines()[1:2], "a message")[0].split(" ", 1)
         self.assertRegex(text, r"\w+ \w+\+\w+ \w+=")
-        return way
+        self.assertEqual(told, way)
 
     def test_of_old_asks_for_no_announcements(self):
-        self.assertEqual(self.tell("object:state-changed"), "notification")
+        self.start_reader(OLD)
+        self.open_sum()
+        self.expect_exercise("notification")
 
     def test_of_today_asks_for_them(self):
-        self.assertEqual(self.tell("object:state-changed", "object:announcement"),
-                         "announcement" if QT >= (6, 8) else "notification")
+        self.start_reader(OF_TODAY)
+        self.open_sum()
+        self.expect_exercise(AS_OF_TODAY)
+
+    def test_one_goes_and_another_comes(self):
+        reader = self.start_reader(OLD)
+        self.open_sum()
+        self.expect_exercise("notification")
+        for events, way in (OF_TODAY, AS_OF_TODAY), (OLD, "notification"):
+            self.desktop.end(reader)
+            reader = self.start_reader(events)
+            self.desktop.press("F3")
+            self.expect_exercise(way)
 
 
 if __name__ == "__main__":

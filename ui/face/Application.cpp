@@ -87,8 +87,8 @@ Application::Dispatch::Dispatch(int& argc, char** argv) : QApplication(argc, arg
     UseOwnFonts();
     // Told to the screen reader as the language of the application, whatever the desktop's is.
     QLocale::setDefault(QLocale(QLocale::Spanish, QLocale::Spain));
-    // For Qt's own texts, such as the context menus of text boxes; a system without the file has them in English. On
-    // Windows the program carries it.
+    // For Qt's own texts, such as the context menus of text boxes; a system without the file has them in English, and
+    // editions that bring their own Qt carry it.
     if (m_translator.load("qtbase_es", QLibraryInfo::path(QLibraryInfo::TranslationsPath)) ||
         m_translator.load(":/qtbase_es")) {
         installTranslator(&m_translator);

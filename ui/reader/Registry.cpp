@@ -13,24 +13,26 @@ namespace {
 constexpr const char* service = "org.a11y.atspi.Registry";
 constexpr const char* path = "/org/a11y/atspi/registry";
 
-QStringList RegisteredEvents(const QDBusConnection& bus)
+// Null where nobody answers in time.
+std::optional<QStringList> RegisteredEvents(const QDBusConnection& bus)
 {
-    constexpr int patience = 1000; // milliseconds
+    constexpr int patience = 300; // milliseconds
     const QDBusMessage answer =
         bus.call(QDBusMessage::createMethodCall(service, path, service, "GetRegisteredEvents"), QDBus::Block, patience);
-    QStringList events;
-    if (answer.signature() == "a(ss)") {
-        const auto list = answer.arguments().constFirst().value<QDBusArgument>();
-        for (list.beginArray(); !list.atEnd();) {
-            QString listener;
-            QString event;
-            list.beginStructure();
-            list >> listener >> event;
-            list.endStructure();
-            events += event.toLower();
-        }
-        list.endArray();
+    if (answer.signature() != "a(ss)") {
+        return std::nullopt;
     }
+    QStringList events;
+    const auto list = answer.arguments().constFirst().value<QDBusArgument>();
+    for (list.beginArray(); !list.atEnd();) {
+        QString listener;
+        QString event;
+        list.beginStructure();
+        list >> listener >> event;
+        list.endStructure();
+        events += event.toLower();
+    }
+    list.endArray();
     return events;
 }
 
@@ -57,9 +59,12 @@ bool Registry::IsListenedToInSilence()
             bus.connect(service, path, service, change, this, SLOT(Forget()));
         }
     }
-    const QStringList events = RegisteredEvents(bus);
+    const std::optional<QStringList> events = RegisteredEvents(bus);
+    if (!events) {
+        return false;
+    }
     const auto isAsked = [&events](const char* start) {
-        return std::ranges::any_of(events, [start](const QString& event) { return event.startsWith(start); });
+        return std::ranges::any_of(*events, [start](const QString& event) { return event.startsWith(start); });
     };
     m_known = isAsked("object:") && !isAsked("object:announcement");
     return *m_known;

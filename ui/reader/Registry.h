@@ -14,8 +14,8 @@ class Registry final : public QObject
 public:
     static Registry& Instance();
 
-    // Whether a screen reader listens that has not asked for announcements. It is found out once, within a second at
-    // most, and again after somebody has come to listen or gone.
+    // Whether a screen reader listens that has not asked for announcements. It is found out once, and again after
+    // somebody has come to listen or gone. Where the registry does not answer within 300 ms it is false this time.
     bool IsListenedToInSilence();
 
 private slots:
