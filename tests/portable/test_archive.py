@@ -31,6 +31,6 @@ class Archive(unittest.TestCase):
             environment = os.environ | {"XDG_DATA_HOME": home}
             subprocess.check_call([FOLDER / "instalar"], env=environment, stdout=subprocess.DEVNULL)
             entry, = pathlib.Path(home).glob("applications/*.desktop")
-            self.assertIn(f'\nExec="{FOLDER}/kelvora"\n', entry.read_text())
+            self.assertIn(f'\nExec=env "{FOLDER}/kelvora"\n', entry.read_text())
             subprocess.check_call([FOLDER / "desinstalar"], env=environment, stdout=subprocess.DEVNULL)
             self.assertEqual([path for path in pathlib.Path(home).rglob("*") if path.is_file()], [])
