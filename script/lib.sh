@@ -60,7 +60,7 @@ run_packages=(qt6-translations-l10n fonts-liberation fonts-dejavu-core fonts-com
 test_packages=(ccache qt6-base-private-dev strace xvfb openbox xdotool dbus-daemon locales python3 orca speech-dispatcher
     speech-dispatcher-audio-plugins python3-speechd python3-pyatspi x11-utils
     pandoc librsvg2-bin desktop-file-utils appstream tidy man-db libbenchmark-dev libicu-dev
-    faketime x11-xserver-utils mutter qt6-wayland valgrind)
+    faketime x11-xserver-utils mutter qt6-wayland valgrind xz-utils)
 
 # build PRESET [TARGET...]: configures what is not, and builds what is not up to date. What has been compiled once is not
 # compiled again, in whatever folder the tree lies, where there is ccache.

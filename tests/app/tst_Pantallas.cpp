@@ -1,4 +1,4 @@
-// The list of screens against all that has to know of each of them: windows, sheet, source and manual.
+// The list of screens against all that has to know of each of them: windows, sheet and source.
 #include "Given.h"
 #include "Pantallas.h"
 #include "Screen.h"
@@ -91,17 +91,6 @@ private slots:
         for (const QFileInfo& rule : QDir(SOURCES "/reglas").entryInfoList({"*.cpp"})) {
             const QString test = "reglas/tst_" + rule.baseName() + ".cpp";
             QVERIFY2(tests.exists(test), qPrintable(test));
-        }
-    }
-
-    // Under a heading of its own, or as one of the operations.
-    void the_manual_tells_of_each()
-    {
-        const QStringList manual = Contents(SOURCES "/docs/manual/manual.md").split('\n');
-        for (const app::Pantalla& screen : app::pantallas) {
-            const QString caption = ToText(screen.caption).remove('&');
-            const QString operation = QString(caption).remove(" de fracciones");
-            QVERIFY2(manual.contains("# " + caption) || manual.contains(operation), qPrintable(caption));
         }
     }
 };

@@ -230,7 +230,7 @@ class Windows(unittest.TestCase):
     def test_the_folder_is_small_and_complete(self):
         self.assertLess(ZIP.stat().st_size, 15_000_000)
         top = self.desktop.program.parent
-        for name in ("manual/index.html", "LICENSE.txt", "CHANGELOG.md", "licencias/qt.txt", "licencias/LGPL-3.txt"):
+        for name in ("manual/index.html", "LICENSE.txt", "CHANGELOG.md", "licencias/qt6-base.txt", "licencias/LGPL-3.txt"):
             self.assertTrue((top / name).is_file(), name)
         version = re.search(r"kelvora-(.*)-windows", ZIP.name)[1]
         manifest = self.desktop.output("wrestool", "--raw", "--extract", "--type=24", str(self.desktop.program))
