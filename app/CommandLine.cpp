@@ -17,7 +17,7 @@ constexpr const char* help = "Uso: kelvora [--help | --version]\n"
                              "  --help     muestra esta ayuda y termina\n"
                              "  --version  muestra la versión y termina\n"
                              "\n"
-                             "Más en el manual: man kelvora\n";
+                             "Más en el manual: " KELVORA_MANUAL "\n";
 
 } // namespace
 

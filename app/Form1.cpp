@@ -76,6 +76,7 @@ void Form1::MnuAce_Click()
     ui::MsgBox("Kelvora: ejercicios de fracciones.\r\n"
                "Autores: el equipo de Kelvora.\r\n"
                "Contacto: el apartado «Ayuda» del manual de Kelvora.\r\n"
+               "Manual: " KELVORA_MANUAL ".\r\n"
                "Versión " KELVORA_VERSION ".");
 }
 

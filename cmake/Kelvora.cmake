@@ -102,7 +102,7 @@ function(kelvora_desktop_tests label)
                     LABELS "${label};${when}"
                     RESOURCE_GROUPS desktops:${desktops}
                     COST 60 # begun before what is short
-                    ENVIRONMENT "${environment};KELVORA_DISPLAY=${ARG_DISPLAY};LOCPATH=${PROJECT_BINARY_DIR}/locales;KELVORA_QT=${Qt6_VERSION};VERSION=${PROJECT_VERSION};PYTHONDONTWRITEBYTECODE=1")
+                    ENVIRONMENT "${environment};KELVORA_DISPLAY=${ARG_DISPLAY};LOCPATH=${PROJECT_BINARY_DIR}/locales;KELVORA_QT=${Qt6_VERSION};VERSION=${PROJECT_VERSION};KELVORA_MANUAL=${KELVORA_MANUAL};PYTHONDONTWRITEBYTECODE=1")
             endif()
         endforeach()
     endforeach()

@@ -10,6 +10,7 @@ import subprocess
 import sys
 import tempfile
 import unittest
+import unittest.mock
 import xml.etree.ElementTree
 
 import gi
@@ -124,11 +125,17 @@ class Installed(unittest.TestCase):
         entry = home / f"applications/{ID}.desktop"
         self.assertEqual(output("desktop-file-validate", entry), "")
         self.assertTrue((home / f"icons/hicolor/64x64/apps/{ID}.png").exists())
-        self.assertTrue(Gio.DesktopAppInfo.new_from_filename(str(entry)).launch([], None))
+        program = Gio.DesktopAppInfo.new_from_filename(str(entry))
+        self.assertTrue(program.launch([], None))
         wait_for((home / "started").exists, "the program")
+        (home / "xdg-open").write_text(f'#!/bin/sh\nprintf %s "$1" >"{home}/opened"\n')
+        (home / "xdg-open").chmod(0o755)
+        with unittest.mock.patch.dict(os.environ, PATH=f"{home}:{os.environ['PATH']}"):
+            program.launch_action("manual", None)
+        wait_for(lambda: (home / "opened").exists() and (home / "opened").read_text() == f"{folder}/manual/index.html", "the manual")
 
         self.assertEqual(output(folder / "desinstalar", env=environment), "Kelvora ya no está en el menú de aplicaciones.\n")
-        self.assertEqual([path for path in home.rglob("*") if path.is_file()], [home / "started"])
+        self.assertEqual({path.name for path in home.rglob("*") if path.is_file()}, {"started", "xdg-open", "opened"})
 
     def test_the_program_runs_from_its_folder(self):
         desktop = Desktop()

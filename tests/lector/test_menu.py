@@ -9,7 +9,8 @@ import test_operaciones
 from pupil import *
 
 CREDITS_TEXT = ("Kelvora: ejercicios de fracciones.|Autores: el equipo de Kelvora.|"
-                f"Contacto: el apartado «Ayuda» del manual de Kelvora.|Versión {os.environ['VERSION']}.")
+                "Contacto: el apartado «Ayuda» del manual de Kelvora.|"
+                f"Manual: {os.environ['KELVORA_MANUAL']}.|Versión {os.environ['VERSION']}.")
 
 
 class Screens(unittest.TestCase):

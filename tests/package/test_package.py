@@ -3,6 +3,7 @@
 import contextlib
 import os
 import pathlib
+import re
 import subprocess
 import sys
 import unittest
@@ -46,6 +47,8 @@ class Package(unittest.TestCase):
         before = files()
         run("dpkg", "--install", "kelvora.deb")
         self.assertIn(ENTRY, files() - before)
+        manual = re.search(r"\nExec=xdg-open (.*)\n", pathlib.Path(ENTRY).read_text())[1]
+        self.assertIn(manual, files() - before)
         self.use()
         run("dpkg", "--purge", "kelvora")
         self.assertEqual(files() - before, set())
