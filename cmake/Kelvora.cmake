@@ -9,6 +9,24 @@ function(kelvora_library name)
     kelvora_warnings(${name})
 endfunction()
 
+# Settles whether a part that nobody has decided on is built: where all these variables are true. Otherwise a line says what
+# is left out, which of Debian's packages it needs and how to insist.
+function(kelvora_part part what packages)
+    if(NOT ${part} STREQUAL AUTO)
+        return()
+    endif()
+    set(${part} ON)
+    foreach(found ${ARGN})
+        if(NOT ${found})
+            set(${part} OFF)
+        endif()
+    endforeach()
+    if(NOT ${part})
+        message(NOTICE "Without ${what}: they need ${packages} (-D${part}=ON insists, -D${part}=OFF hides this line)")
+    endif()
+    set(${part} ${${part}} PARENT_SCOPE)
+endfunction()
+
 set(KELVORA_CONVERSION_WARNING -Wconversion)
 
 function(kelvora_warnings target)
