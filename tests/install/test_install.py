@@ -4,6 +4,7 @@ import configparser
 import html.parser
 import os
 import pathlib
+import re
 import shutil
 import struct
 import subprocess
@@ -85,8 +86,14 @@ class Installed(unittest.TestCase):
 
     def test_the_metainfo_is_valid_and_of_this_version(self):
         path = self.share / f"metainfo/{ID}.metainfo.xml"
-        output("appstreamcli", "validate", "--no-net", path)
         root = xml.etree.ElementTree.parse(path)
+        validated = subprocess.run(["appstreamcli", "validate", "--no-net", path], stdout=subprocess.PIPE, text=True)
+        objections = re.findall(r"^[EW]: .*: (\S+)$", validated.stdout, re.MULTILINE)
+        if root.find("url") is None and objections == ["url-homepage-missing"]:
+            objections = []  # there is no address yet
+        elif not objections:
+            self.assertEqual(validated.returncode, 0, validated.stdout)
+        self.assertEqual(objections, [])
         self.assertEqual(root.find("releases/release").get("version"), os.environ["VERSION"])
         self.assertEqual(root.findtext("launchable"), f"{ID}.desktop")
         for image in root.iterfind("screenshots/screenshot/image"):
