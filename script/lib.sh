@@ -24,6 +24,9 @@ fail() {
     exit 1
 }
 
+# step TEXT: what a long script does now, with the time.
+step() { printf '[%s] %s\n' "$(date +%T)" "$*"; }
+
 is_installed() {
     [ "$(dpkg-query -W -f='${db:Status-Status}' "$1" 2>/dev/null)" = installed ]
 }

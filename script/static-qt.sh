@@ -3,8 +3,6 @@
 
 qt=$target/qt # where it is
 
-step() { printf '[%s] %s\n' "$(date +%T)" "$*"; }
-
 # Of the lines of a build, those that come to another tenth of the whole.
 tenths() {
     sed -u -n 's|^\[\([0-9]*\)/\([0-9]*\)\].*|\1 \2|p' |

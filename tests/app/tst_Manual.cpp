@@ -1,6 +1,5 @@
 // What the manual says of keys and of what is heard, done in the program: each of its tables that tells what is heard,
 // row by row, on a screen that has just been opened.
-#include "Form.h"
 #include "Pantallas.h"
 #include "Screen.h"
 
@@ -10,8 +9,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMap>
-#include <QMenu>
-#include <QPlainTextEdit>
 #include <QRegularExpression>
 #include <QTimer>
 
