@@ -14,15 +14,15 @@ new_debian() {
         rm -rf --one-file-system "$kept" "$kept.new"
         log=$(mktemp)
         if [ $# -eq 0 ]; then
-            echo "Installing Debian $suite"
+            step "Installing Debian $suite: a minute or two, 100 MB to download ($log)"
             need debootstrap
             debootstrap --variant=minbase "$suite" "$kept.new" ${DEBIAN_MIRROR:+"$DEBIAN_MIRROR"} >"$log" 2>&1 </dev/null
         else
             new_debian "$suite" "$kept.new"
-            echo "Installing in Debian $suite: $*"
+            step "Installing in Debian $suite ($log): $*"
             (in_debian "$kept.new" sh -c 'apt-get update && apt-get install -y --no-install-recommends "$@" && apt-get clean' \
                 sh "$@") >"$log" 2>&1
-        fi || fail "could not install Debian $suite ($log)"
+        fi || { objections "$log"; fail "could not install Debian $suite"; }
         rm -f "$log"
         touch "$kept.new"
         mv "$kept.new" "$kept"

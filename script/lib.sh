@@ -1,6 +1,12 @@
 # Shared by the scripts: packages, builds and one clear line where something goes wrong. To be sourced by bash from the
 # top of the project.
 
+# Asked for help a script says what its first lines say; one for users has no arguments, and says so.
+if [[ ${1:-} =~ ^(-h|--help)$ ]] && [ "${language:-en}" = en ]; then
+    sed -n '2,/^[^#]/s/^# \{0,1\}//p' "$0"
+    exit
+fi
+
 # The folders of the program's source.
 mapfile -t folders < <(sed -n 's/^add_subdirectory(\(.*\))$/\1/p' CMakeLists.txt)
 
@@ -27,6 +33,47 @@ fail() {
 # step TEXT: what a long script does now, with the time.
 step() { printf '[%s] %s\n' "$(date +%T)" "$*"; }
 
+# progress TEXT: of lines "DONE ALL", how far it is: on a terminal each, in its one line, elsewhere each tenth of the whole.
+progress() {
+    local so_far all last=0 line=
+    while read -r so_far all; do
+        if [ -t 1 ]; then
+            line="$1: $so_far $(says de of) $all"
+            printf '\r%s\e[K' "$line"
+        elif [ $((10 * so_far / all)) -ne "$last" ]; then
+            last=$((10 * so_far / all))
+            step "$1: $so_far $(says de of) $all"
+        fi
+    done
+    [ -z "$line" ] || printf '\n'
+}
+
+# takes MOST ARGUMENT...: ends the script where it was given more arguments than it takes, or an option.
+takes() {
+    local most=$1 argument
+    shift
+    for argument in "$@"; do
+        [[ $argument != -* ]] || fail "$(says "$0 no tiene la opción" "$0 has no option") $argument"
+    done
+    [ $# -le "$most" ] || fail "$(says "$0 no admite" "$0 does not take") ${*:most + 1}"
+}
+
+# takes_of "WORD..." ARGUMENT...: ends the script where one of its arguments is none of these words.
+takes_of() {
+    local argument
+    for argument in "${@:2}"; do
+        [[ " $1 " == *" $argument "* ]] || fail "$0 takes $1, not $argument"
+    done
+}
+
+# are_numbers ARGUMENT...: ends the script where one of them is no number.
+are_numbers() {
+    local argument
+    for argument in "$@"; do
+        [[ $argument =~ ^[0-9]+$ ]] || fail "$0 takes numbers, not $argument"
+    done
+}
+
 is_installed() {
     [ "$(dpkg-query -W -f='${db:Status-Status}' "$1" 2>/dev/null)" = installed ]
 }
@@ -34,6 +81,27 @@ is_installed() {
 as_root() {
     if [ "$(id -u)" -eq 0 ]; then "$@"; else sudo "$@"; fi
 }
+
+# apt_install LOG ARGUMENT...: has apt-get install what its arguments say, and tells how much that is.
+apt_install() {
+    local log=$1 apt=(env DEBIAN_FRONTEND=noninteractive apt-get -y --no-install-recommends -o APT::Status-Fd=1) uris megabytes kind percent
+    shift
+    as_root apt-get update >"$log" 2>&1 </dev/null && uris=$("${apt[@]}" --print-uris "$@" 2>>"$log" </dev/null) ||
+        { objections "$log"; return 1; }
+    megabytes=$(awk "/^'/ { bytes += \$(NF - 1) } END { print int(bytes / 1e6) + 1 }" <<<"$uris")
+    step "$(says 'Por descargar' 'To download'): $megabytes MB ($log)"
+    as_root "${apt[@]}" "$@" 2>&1 </dev/null | tee -a "$log" |
+        while IFS=: read -r kind _ percent _; do
+            case $kind in
+            dlstatus) echo $((${percent%%[.,]*} / 2)) 100 ;;
+            pmstatus) echo $((50 + ${percent%%[.,]*} / 2)) 100 ;;
+            esac
+        done | progress "$(says 'Descargado e instalado' 'Downloaded and installed')"
+    [ "${PIPESTATUS[0]}" -eq 0 ] || { objections "$log"; return 1; }
+}
+
+# objections LOG: prints to what apt-get and its like object there, or how the log ends.
+objections() { grep '^[EW]: ' "$1" >&2 || tail -n 10 "$1" >&2; }
 
 # need PACKAGE...: installs what is missing of Debian's packages. Scripts beside each other do so one after another.
 need() {
@@ -46,12 +114,9 @@ need() {
     if [ ${#missing[@]} -gt 0 ]; then
         [ "$(id -u)" -eq 0 ] || command -v sudo >/dev/null ||
             fail "$(says "faltan paquetes y para instalarlos se necesita ser root o tener sudo" "packages are missing, and installing them needs root or sudo"): ${missing[*]}"
-        echo "$(says Instalando Installing): ${missing[*]}"
+        step "$(says 'Faltan paquetes' 'Packages are missing'): ${missing[*]}"
         log=$(mktemp)
-        as_root apt-get update >"$log" 2>&1 &&
-            as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y --no-install-recommends "${missing[@]}" \
-                >>"$log" 2>&1 </dev/null ||
-            fail "$(says "no se ha podido instalar" "could not install"): ${missing[*]} ($log)"
+        apt_install "$log" install "${missing[@]}" || fail "$(says "no se ha podido instalar" "could not install"): ${missing[*]}"
         rm -f "$log"
     fi
     exec {lock}>&-
@@ -65,19 +130,30 @@ test_packages=(ccache qt6-base-private-dev strace xvfb openbox xdotool dbus-daem
     pandoc librsvg2-bin desktop-file-utils appstream tidy man-db libbenchmark-dev libicu-dev
     faketime x11-xserver-utils mutter qt6-wayland valgrind xz-utils)
 
+# compile LOG FOLDER [TARGET...]: builds what has been configured there; what it says is added to the log.
+compile() {
+    local log=$1 folder=$2
+    shift 2
+    cmake --build "$folder" ${1:+--target "$@"} 2>&1 </dev/null | tee -a "$log" |
+        sed -u -n 's|^\[\([0-9]*\)/\([0-9]*\)\].*|\1 \2|p' | progress "$(says Compilado Compiled)"
+    [ "${PIPESTATUS[0]}" -eq 0 ] || { tail -n 40 "$log" >&2; fail "$(says "la compilación ha fallado" "the build has failed") ($log)"; }
+}
+
 # build PRESET [TARGET...]: configures what is not, and builds what is not up to date. What has been compiled once is not
 # compiled again, in whatever folder the tree lies, where there is ccache.
 build() {
-    local preset=$1 log lock
+    local preset=$1 log=build/$1.log lock
     shift
     mkdir -p build
     exec {lock}>"build/$preset.lock" && flock "$lock" || fail "$(says "no se puede escribir en" "cannot write to") build"
     if command -v ccache >/dev/null; then
         export CMAKE_CXX_COMPILER_LAUNCHER=ccache CCACHE_DIR=$cache/ccache CCACHE_BASEDIR=$PWD CCACHE_NOHASHDIR=1
     fi
-    log=build/$preset.log
-    { [ -f "build/$preset/build.ninja" ] || cmake --preset "$preset"; } >"$log" 2>&1 &&
-        cmake --build --preset "$preset" ${1:+--target "$@"} >>"$log" 2>&1 ||
-        { tail -n 40 "$log" >&2; fail "$(says "la compilación ha fallado" "the build has failed") ($log)"; }
+    : >"$log"
+    if [ ! -f "build/$preset/build.ninja" ]; then
+        step "$(says 'Se compila por primera vez: de uno a diez minutos' 'Compiling for the first time: one to ten minutes') ($log)"
+        cmake --preset "$preset" >"$log" 2>&1 || { tail -n 40 "$log" >&2; fail "$(says "la compilación no puede empezar" "the build cannot begin") ($log)"; }
+    fi
+    compile "$log" "build/$preset" "$@"
     exec {lock}>&-
 }

@@ -3,30 +3,11 @@
 
 qt=$target/qt # where it is
 
-# Of the lines of a build, those that come to another tenth of the whole.
-tenths() {
-    sed -u -n 's|^\[\([0-9]*\)/\([0-9]*\)\].*|\1 \2|p' |
-        while read -r built all; do
-            if [ $((10 * built / all)) -ne "${last:-0}" ]; then
-                last=$((10 * built / all))
-                step "  $built of $all"
-            fi
-        done
-}
-
 # run LOG COMMAND...: with all that it says in a log.
 run() {
     local log=$target/$1.log
     shift
-    "$@" >>"$log" 2>&1 </dev/null || { tail -n 20 "$log" >&2; fail "has failed ($log): $*"; }
-}
-
-# compile LOG FOLDER [TARGET...]: what has been configured there.
-compile() {
-    local log=$target/$1.log folder=$2
-    shift 2
-    cmake --build "$folder" ${1:+--target "$@"} 2>&1 </dev/null | tee -a "$log" | tenths
-    [ "${PIPESTATUS[0]}" -eq 0 ] || { tail -n 20 "$log" >&2; fail "does not build ($log): $folder"; }
+    "$@" >>"$log" 2>&1 </dev/null || { tail -n 20 "$log" >&2; fail "has failed ($log): ${*:1:3}"; }
 }
 
 # installed NAME BUILD: what a build installs, in the folder $target/NAME, as if all were as old as the release, so that an

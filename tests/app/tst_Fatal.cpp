@@ -51,6 +51,9 @@ private slots:
     {
         QFETCH(QString, told);
         QProcess program;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert("QT_FORCE_STDERR_LOGGING", "1"); // not to a debugger, as a program of Windows does
+        program.setProcessEnvironment(environment);
         program.start(MISSPELT_PROGRAM, {QTest::currentDataTag()});
         QVERIFY(program.waitForFinished(60'000));
         QCOMPARE(program.exitStatus(), QProcess::NormalExit);
