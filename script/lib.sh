@@ -127,7 +127,7 @@ run_packages=(qt6-translations-l10n fonts-liberation fonts-dejavu-core fonts-com
 [ "$os" = 'debian 12' ] || run_packages+=(fonts-liberation-sans-narrow) # there a part of fonts-liberation
 test_packages=(ccache qt6-base-private-dev strace xvfb openbox xdotool dbus-daemon locales python3 orca speech-dispatcher
     speech-dispatcher-audio-plugins python3-speechd python3-pyatspi x11-utils
-    pandoc librsvg2-bin desktop-file-utils appstream tidy man-db libbenchmark-dev libicu-dev
+    pandoc librsvg2-bin weasyprint liblouis-bin poppler-utils desktop-file-utils appstream tidy man-db libbenchmark-dev libicu-dev
     faketime x11-xserver-utils mutter qt6-wayland valgrind xz-utils)
 
 # compile LOG FOLDER [TARGET...]: builds what has been configured there; what it says is added to the log.
@@ -135,7 +135,7 @@ compile() {
     local log=$1 folder=$2
     shift 2
     cmake --build "$folder" ${1:+--target "$@"} 2>&1 </dev/null | tee -a "$log" |
-        sed -u -n 's|^\[\([0-9]*\)/\([0-9]*\)\].*|\1 \2|p' | progress "$(says Compilado Compiled)"
+        sed -u -n 's|^\[\([1-9][0-9]*\)/\([0-9]*\)\].*|\1 \2|p' | progress "$(says Compilado Compiled)"
     [ "${PIPESTATUS[0]}" -eq 0 ] || { tail -n 40 "$log" >&2; fail "$(says "la compilación ha fallado" "the build has failed") ($log)"; }
 }
 

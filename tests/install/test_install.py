@@ -34,11 +34,12 @@ def output(*command, **options):
 class Page(html.parser.HTMLParser):
     def __init__(self, path):
         super().__init__()
-        self.language, self.headings, self.pictures, self.links, self.names = None, [], {}, [], set()
+        self.language, self.headings, self.pictures, self.links, self.names, self.texts = None, [], {}, [], set(), []
+        self.tag = None
         self.feed(path.read_text())
 
     def handle_starttag(self, tag, attrs):
-        attrs = dict(attrs)
+        self.tag, attrs = tag, dict(attrs)
         self.names.add(attrs.get("id"))
         if tag == "html":
             self.language = attrs.get("lang")
@@ -48,6 +49,10 @@ class Page(html.parser.HTMLParser):
             self.pictures[attrs["src"]] = attrs.get("alt", "")
         elif tag in ("a", "link", "script"):
             self.links.append(attrs.get("href") or attrs.get("src"))
+
+    def handle_data(self, data):
+        if data.strip():
+            self.texts.append((self.tag, data))
 
 
 class Installed(unittest.TestCase):
@@ -117,6 +122,46 @@ class Installed(unittest.TestCase):
         for alternative in page.pictures.values():
             self.assertGreater(len(alternative), 40)
         self.assertEqual({link.removeprefix("#") for link in page.links} - page.names, set())
+
+    def test_the_manual_is_there_for_paper_and_as_plain_text_with_every_word(self):
+        folder = self.share / "doc/kelvora/manual"
+        page = Page(folder / "index.html")
+        texts = [(tag, text) for tag, text in page.texts if tag not in ("style", "title", "footer")]
+        words = {word for _, text in texts for word in re.findall(r"\w+", text)}
+        self.assertGreater(len(words), 900)
+        plain = (folder / "manual.txt").read_text()
+        columns = {word for tag, text in texts if tag == "th" for word in re.findall(r"\w+", text)}
+        self.assertEqual(words - columns - set(re.findall(r"\w+", plain)), set())
+        self.assertIn("- Alt+B. Dónde: en todos los ejercicios. Qué hacen: Borrar: vacía la respuesta y lleva a ella",
+                      re.sub(r"\s+", " ", plain))
+        self.assertLessEqual(max(map(len, plain.splitlines())), 80)
+        self.assertNotRegex(plain, "[|─]|-----")  # nothing that is drawn
+        paper = output("pdftotext", "-raw", folder / "manual.pdf", "-")
+        self.assertEqual(words - set(re.findall(r"\w+", paper)), set())
+        about = dict(re.findall(r"(?m)^(\w+): +(.*)$", output("pdfinfo", folder / "manual.pdf")))
+        self.assertEqual((about["Title"], about["Tagged"]), ("Manual de Kelvora", "yes"))
+        keys, = (text for text in paper.split("\f") if text.startswith("Las teclas de un vistazo"))
+        for first_and_last in "Tab, Mayús+Tab", "Espacio representación gráfica":
+            self.assertIn(first_and_last, keys)
+
+    def test_the_braille_fits_on_its_pages_and_its_contents_lead_to_them(self):
+        folder = self.share / "doc/kelvora/manual"
+        text = (folder / "manual.brf").read_bytes().decode("ascii")
+        pages = [page.split("\r\n") for page in text.split("\f")]
+        self.assertEqual(pages.pop(), [""])
+        for place, page in enumerate(pages, 1):
+            self.assertEqual(len(page), 25 + 1)  # its end is the last line's
+            self.assertLessEqual(max(map(len, page)), 40)
+            self.assertEqual(page[0].strip(), "#" + "".join("JABCDEFGHI"[int(digit)] for digit in str(place)))
+        # The dots, looked up by hand, of 4.8. Diferencia de fracciones, with one sign of numbers or two, and of Alt+H.
+        heading = r"#D'#?H' \.DIFERENCIA DE FRACCIONES"
+        entry, = re.findall(rf"(?m)^{heading} +(#[A-J]+)\r$", text)
+        page, = (page for page in pages if any(re.fullmatch(heading, line) for line in page))
+        self.assertEqual(page[0].strip(), entry)
+        self.assertIn(".ALT6.H", text)
+        headings = [text for tag, text in Page(folder / "index.html").texts if tag in ("h2", "h3")]
+        # A line of a paragraph may begin with a number, too.
+        self.assertGreaterEqual(len(re.findall(r"(?m)^#[A-J]+'(?:#?[A-J]+')? ", text)), 2 * len(headings))
 
     def test_the_portable_edition_enters_the_menu_and_leaves_it(self):
         folder = self.root.parent / 'Kelvora de "Ñ" por $5 al 100%u en `C:\\`'  # all that means something in a menu entry

@@ -1,0 +1,76 @@
+#!/usr/bin/env python3
+"""Writes a text of one line for each paragraph in the six dots of Spanish braille, as embossers and braille displays take it
+(BRF): pages of 25 lines of 40 cells, of which the first line has the page's number, after a table of contents.
+
+    braille.py TEXT BRF
+
+The first line is the title. A heading begins with a number, an item with a dash; what belongs to a term is indented.
+"""
+
+import pathlib
+import re
+import subprocess
+import sys
+import textwrap
+
+CELLS, LINES = 40, 25
+# Without contractions, with the underscore, which Debian's table has not; in the ASCII that stands for the cells.
+TABLES = "en-us-brf.dis,es-g1.ctb"
+UNDERSCORE = "⠨⠤"
+
+
+def braille(lines):
+    done = subprocess.run(["lou_translate", "--forward", TABLES], stdout=subprocess.PIPE, encoding="utf-8", check=True,
+                          input="".join(line.replace("_", UNDERSCORE) + "\n" for line in lines)).stdout.splitlines()
+    for line, dots in zip(lines, done, strict=True):
+        if not dots.isascii():
+            sys.exit(f"there is a character that Spanish braille has not: {line}")
+    return done
+
+
+def number(page):
+    return "#" + str(page).translate(str.maketrans("1234567890", "ABCDEFGHIJ"))
+
+
+def paragraphs_of(text):
+    """Whether each is a heading, and its lines."""
+    text = [line for line in text.splitlines() if line.strip()]
+    kinds = [re.match(r"(?P<heading>\d+\.)|(?P<item>- +)|(?P<inside> +)|", line).lastgroup for line in text]
+    indents = {"heading": ("", ""), "item": ("", "  "), "inside": ("    ", "  ")}
+    for kind, line in zip(kinds, braille([re.sub(r"^(- +| +)", "", line) for line in text])):
+        first, other = indents.get(kind, ("  ", ""))
+        yield kind == "heading", textwrap.wrap(line, CELLS, initial_indent=first, subsequent_indent=other, break_on_hyphens=False)
+
+
+def pages_of(paragraphs, first):
+    """The lines of the pages, from this number on, and where each heading is. A heading has a line below it."""
+    pages, contents = [[]], []
+    for is_heading, lines in paragraphs:
+        if is_heading and pages[-1]:
+            pages[-1].append("")
+            if len(pages[-1]) + len(lines) + 2 > LINES - 1:
+                pages.append([])
+        if is_heading:
+            contents.append((lines, first + len(pages) - 1))
+        for line in lines:
+            if len(pages[-1]) == LINES - 1:
+                pages.append([])
+            pages[-1].append(line)
+    return pages, contents
+
+
+def entry(lines, page):
+    """A heading in the table of contents: with the page behind it, in a line of its own where there is no room."""
+    lines = lines + [""] if len(lines[-1]) + 1 + len(number(page)) > CELLS else lines
+    return lines[:-1] + [lines[-1] + number(page).rjust(CELLS - len(lines[-1]))]
+
+
+(_, title), *body = paragraphs_of(pathlib.Path(sys.argv[1]).read_text())
+before = pages = []
+while not pages or headings[0][1] != len(before) + 1:  # until the contents take as many pages as have been counted
+    pages, headings = pages_of(body, len(before) + 1)
+    before, _ = pages_of([(False, title)] + [(False, entry(*heading)) for heading in headings], 1)
+with open(sys.argv[2], "w", newline="") as written:
+    for place, page in enumerate(before + pages, 1):
+        lines = [number(place).rjust(CELLS)] + page + [""] * (LINES - 1 - len(page))
+        written.write("".join(line.rstrip() + "\r\n" for line in lines) + "\f")
