@@ -46,11 +46,11 @@ def pages_of(paragraphs, first):
     """The lines of the pages, from this number on, and where each heading is. A heading has a line below it."""
     pages, contents = [[]], []
     for is_heading, lines in paragraphs:
-        if is_heading and pages[-1]:
-            pages[-1].append("")
-            if len(pages[-1]) + len(lines) + 2 > LINES - 1:
-                pages.append([])
         if is_heading:
+            if len(pages[-1]) + len(lines) + 3 > LINES - 1:
+                pages.append([])
+            elif pages[-1]:
+                pages[-1].append("")
             contents.append((lines, first + len(pages) - 1))
         for line in lines:
             if len(pages[-1]) == LINES - 1:

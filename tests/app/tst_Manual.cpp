@@ -22,7 +22,8 @@ struct Row
 {
     int line;
     QString keys;
-    QString heard;
+    QString heard; // the last cell
+    QString second;
 };
 struct Table
 {
@@ -30,8 +31,8 @@ struct Table
     QList<Row> rows;
 };
 
-// The tables whose last column is "se oye".
-QList<Table> Tables()
+// The tables whose last column is this.
+QList<Table> Tables(const QString& last = "se oye")
 {
     QFile file(MANUAL);
     if (!file.open(QIODevice::ReadOnly)) {
@@ -52,11 +53,11 @@ QList<Table> Tables()
         }
         QStringList cells = text.split('|');
         cells = cells.mid(1, cells.size() - 2);
-        if (cells.last().trimmed() == "se oye") {
+        if (cells.last().trimmed() == last && cells.first().trimmed() == "teclas") {
             tables += Table{heading, {}};
             inTable = true;
         } else if (inTable && !cells.first().trimmed().startsWith("---")) {
-            tables.last().rows += Row{line, cells.first().trimmed(), cells.last().trimmed()};
+            tables.last().rows += Row{line, cells.first().trimmed(), cells.last().trimmed(), cells.at(1).trimmed()};
         }
     }
     return tables;
@@ -112,6 +113,33 @@ std::optional<QStringList> Said(QString cell)
     const bool isNothing =
         said.isEmpty() && (cell == "nada" || cell == "nada más"); // than what the reader says by itself
     return (cell.isEmpty() && !said.isEmpty()) || isNothing ? std::optional(said) : std::nullopt;
+}
+
+// The screens that a cell names, by a word of their captions, or all but those.
+QList<const app::Pantalla*> Screens(QString cell)
+{
+    static const QMap<QString, QString> others{{"factores primos", "factores"},
+                                               {"fichas", "Expresa"},
+                                               {"expresa con fracciones", "Expresa"},
+                                               {"series", "serie"}};
+    const bool isAllBut = cell.startsWith("todos, menos ");
+    cell.remove("todos, menos ").replace(" y ", ", ");
+    QList<const app::Pantalla*> screens;
+    for (const app::Pantalla& pantalla : app::pantallas) {
+        const QString caption = QString::fromUtf8(pantalla.caption).remove('&');
+        bool isNamed = cell == "en todos los ejercicios";
+        for (QString name : cell.split(", ")) {
+            name.remove(QRegularExpression("^(la|las) |^desde .*"));
+            static const QRegularExpression operation("^(Suma|Diferencia|Producto|Cociente) ");
+            isNamed = isNamed || (name == "operaciones" ? caption.contains(operation)
+                                                        : !name.isEmpty() && caption.contains(others.value(name, name),
+                                                                                              Qt::CaseInsensitive));
+        }
+        if (isNamed != isAllBut) {
+            screens += &pantalla;
+        }
+    }
+    return screens;
 }
 
 } // namespace
@@ -205,6 +233,67 @@ private slots:
             }
         }
         QCOMPARE(lies, 0);
+    }
+
+    // Whether a key does anything on a screen that has just been opened: something is heard, or a menu or a box opens.
+    void a_key_of_the_quick_reference_works_where_it_says_and_nowhere_else_data()
+    {
+        QTest::addColumn<QString>("key");
+        QTest::addColumn<QList<const app::Pantalla*>>("screens");
+        QMap<QString, QList<const app::Pantalla*>> where;
+        const QList<Table> tables = Tables("qué hacen");
+        QCOMPARE(tables.size(), 1);
+        for (const Row& row : tables.first().rows) {
+            // What moves and types is different from box to box; the examples try that. All screens close.
+            static const QRegularExpression here("^(Tab|Mayús\\+Tab|Intro|Espacio|L|Alt\\+F4)$");
+            for (const QString& key : row.keys.split(", ")) {
+                if (!here.match(key).hasMatch()) {
+                    where[key] += Screens(row.second);
+                }
+            }
+        }
+        for (auto key = where.begin(); key != where.end(); ++key) {
+            QTest::addRow("%s", qPrintable(key.key())) << key.key() << key.value();
+        }
+    }
+    void a_key_of_the_quick_reference_works_where_it_says_and_nowhere_else()
+    {
+        QFETCH(const QString, key);
+        QFETCH(const QList<const app::Pantalla*>, screens);
+        QVERIFY(!screens.isEmpty());
+        for (const app::Pantalla& pantalla : app::pantallas) {
+            numeros::FijarSemilla(seed);
+            OpenScreen(pantalla.crear());
+            m_ear->Take();
+            const auto heard = Try({0, key, {}, {}});
+            QVERIFY(heard);
+            QWidget* const menu = QApplication::activePopupWidget();
+            QVERIFY2((menu != nullptr || !heard->isEmpty()) == screens.contains(&pantalla),
+                     qPrintable(QString::fromUtf8(pantalla.caption) + ": " + heard->join(", ")));
+            if (menu != nullptr) {
+                menu->close();
+            }
+            CloseScreen();
+        }
+    }
+
+    void the_quick_reference_has_every_key()
+    {
+        QSet<QString> known;
+        for (const Table& table : Tables("qué hacen")) {
+            for (const Row& row : table.rows) {
+                const QStringList keysOfRow = row.keys.split(", ");
+                known += QSet(keysOfRow.begin(), keysOfRow.end());
+            }
+        }
+        for (const Table& table : Tables()) {
+            for (const Row& row : table.rows) {
+                const bool isExample = row.second == row.heard; // it has two columns
+                for (const QString& key : isExample ? QStringList() : row.keys.split(", ")) {
+                    QVERIFY2(key == "al abrir" || key.startsWith("escribir ") || known.contains(key), qPrintable(key));
+                }
+            }
+        }
     }
 
     // A heading of its own for each exercise, in the menu's order and words.
