@@ -151,10 +151,15 @@ function(kelvora_icon files)
     find_program(RSVG_CONVERT rsvg-convert REQUIRED)
     set(icon ${PROJECT_SOURCE_DIR}/data/org.kelvora.kelvora.svg)
     foreach(size 16 22 24 32 48 64 128 256)
+        if(size EQUAL 16)
+            set(drawn ${PROJECT_SOURCE_DIR}/data/org.kelvora.kelvora-16.svg)
+        else()
+            set(drawn ${icon})
+        endif()
         add_custom_command(
             OUTPUT ${size}.png
-            COMMAND ${RSVG_CONVERT} --width ${size} --height ${size} --output ${size}.png ${icon}
-            DEPENDS ${icon}
+            COMMAND ${RSVG_CONVERT} --width ${size} --height ${size} --output ${size}.png ${drawn}
+            DEPENDS ${drawn}
             VERBATIM)
         list(APPEND pictures ${size}.png)
     endforeach()
