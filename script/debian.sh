@@ -19,10 +19,10 @@ new_debian() {
             debootstrap --variant=minbase "$suite" "$kept.new" ${DEBIAN_MIRROR:+"$DEBIAN_MIRROR"} >"$log" 2>&1 </dev/null
         else
             new_debian "$suite" "$kept.new"
-            step "Installing in Debian $suite ($log): $*"
+            step "Installing in Debian $suite, some minutes and up to 1 GB to download ($log): $*"
             (in_debian "$kept.new" sh -c 'apt-get update && apt-get install -y --no-install-recommends "$@" && apt-get clean' \
                 sh "$@") >"$log" 2>&1
-        fi || { objections "$log"; fail "could not install Debian $suite"; }
+        fi || { objections "$log"; fail "could not install Debian $suite ($log)"; }
         rm -f "$log"
         touch "$kept.new"
         mv "$kept.new" "$kept"

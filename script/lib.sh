@@ -3,7 +3,7 @@
 
 # Asked for help a script says what its first lines say; one for users has no arguments, and says so.
 if [[ ${1:-} =~ ^(-h|--help)$ ]] && [ "${language:-en}" = en ]; then
-    sed -n '2,/^[^#]/s/^# \{0,1\}//p' "$0"
+    sed -n '2,/^[^#]/s/^# \{0,1\}//p' "script/${0##*/}"
     exit
 fi
 
@@ -37,6 +37,7 @@ step() { printf '[%s] %s\n' "$(date +%T)" "$*"; }
 progress() {
     local so_far all last=0 line=
     while read -r so_far all; do
+        [[ $so_far =~ ^[0-9]+$ && $all =~ ^[1-9][0-9]*$ ]] || continue
         if [ -t 1 ]; then
             line="$1: $so_far $(says de of) $all"
             printf '\r%s\e[K' "$line"
@@ -62,7 +63,7 @@ takes() {
 takes_of() {
     local argument
     for argument in "${@:2}"; do
-        [[ " $1 " == *" $argument "* ]] || fail "$0 takes $1, not $argument"
+        [[ " $1 " == *" $argument "* && $argument =~ ^[^\ ]+$ ]] || fail "$0 takes $1, not $argument"
     done
 }
 
@@ -70,7 +71,7 @@ takes_of() {
 are_numbers() {
     local argument
     for argument in "$@"; do
-        [[ $argument =~ ^[0-9]+$ ]] || fail "$0 takes numbers, not $argument"
+        [[ $argument =~ ^[1-9][0-9]*$ ]] || fail "$0 takes numbers from 1 on, not $argument"
     done
 }
 
@@ -87,21 +88,21 @@ apt_install() {
     local log=$1 apt=(env DEBIAN_FRONTEND=noninteractive apt-get -y --no-install-recommends -o APT::Status-Fd=1) uris megabytes kind percent
     shift
     as_root apt-get update >"$log" 2>&1 </dev/null && uris=$("${apt[@]}" --print-uris "$@" 2>>"$log" </dev/null) ||
-        { objections "$log"; return 1; }
+        { echo "$uris" >>"$log"; objections "$log"; return 1; }
     megabytes=$(awk "/^'/ { bytes += \$(NF - 1) } END { print int(bytes / 1e6) + 1 }" <<<"$uris")
     step "$(says 'Por descargar' 'To download'): $megabytes MB ($log)"
-    as_root "${apt[@]}" "$@" 2>&1 </dev/null | tee -a "$log" |
+    as_root "${apt[@]}" "$@" 2>&1 </dev/null | tee -p -a "$log" |
         while IFS=: read -r kind _ percent _; do
             case $kind in
-            dlstatus) echo $((${percent%%[.,]*} / 2)) 100 ;;
-            pmstatus) echo $((50 + ${percent%%[.,]*} / 2)) 100 ;;
+            dlstatus) echo "$((10#0${percent//[!0-9]*/} / 2)) 100" ;;
+            pmstatus) echo "$((50 + 10#0${percent//[!0-9]*/} / 2)) 100" ;;
             esac
-        done | progress "$(says 'Descargado e instalado' 'Downloaded and installed')"
+        done | progress "$(says 'Descargado e instalado, en %' 'Downloaded and installed, in %')"
     [ "${PIPESTATUS[0]}" -eq 0 ] || { objections "$log"; return 1; }
 }
 
 # objections LOG: prints to what apt-get and its like object there, or how the log ends.
-objections() { grep '^[EW]: ' "$1" >&2 || tail -n 10 "$1" >&2; }
+objections() { grep -E '^([EW]: |dpkg[a-z-]*: error)|^ .* : (Depends|Conflicts): ' "$1" | head -n 15 >&2; [ "${PIPESTATUS[0]}" -eq 0 ] || tail -n 10 "$1" >&2; }
 
 # need PACKAGE...: installs what is missing of Debian's packages. Scripts beside each other do so one after another.
 need() {
@@ -116,7 +117,7 @@ need() {
             fail "$(says "faltan paquetes y para instalarlos se necesita ser root o tener sudo" "packages are missing, and installing them needs root or sudo"): ${missing[*]}"
         step "$(says 'Faltan paquetes' 'Packages are missing'): ${missing[*]}"
         log=$(mktemp)
-        apt_install "$log" install "${missing[@]}" || fail "$(says "no se ha podido instalar" "could not install"): ${missing[*]}"
+        apt_install "$log" install "${missing[@]}" || fail "$(says "no se ha podido instalar" "could not install"): ${missing[*]} ($log)"
         rm -f "$log"
     fi
     exec {lock}>&-
@@ -130,11 +131,11 @@ test_packages=(ccache qt6-base-private-dev strace xvfb openbox xdotool dbus-daem
     pandoc librsvg2-bin weasyprint liblouis-bin poppler-utils desktop-file-utils appstream tidy man-db libbenchmark-dev libicu-dev
     faketime x11-xserver-utils mutter qt6-wayland valgrind xz-utils)
 
-# compile LOG FOLDER [TARGET...]: builds what has been configured there; what it says is added to the log.
+# compile LOG ARGUMENT...: has CMake build what its arguments say; what it says is added to the log.
 compile() {
-    local log=$1 folder=$2
-    shift 2
-    cmake --build "$folder" ${1:+--target "$@"} 2>&1 </dev/null | tee -a "$log" |
+    local log=$1
+    shift
+    NINJA_STATUS='[%f/%t] ' cmake --build "$@" 2>&1 </dev/null | tee -p -a "$log" |
         sed -u -n 's|^\[\([1-9][0-9]*\)/\([0-9]*\)\].*|\1 \2|p' | progress "$(says Compilado Compiled)"
     [ "${PIPESTATUS[0]}" -eq 0 ] || { tail -n 40 "$log" >&2; fail "$(says "la compilación ha fallado" "the build has failed") ($log)"; }
 }
@@ -154,6 +155,6 @@ build() {
         step "$(says 'Se compila por primera vez: de uno a diez minutos' 'Compiling for the first time: one to ten minutes') ($log)"
         cmake --preset "$preset" >"$log" 2>&1 || { tail -n 40 "$log" >&2; fail "$(says "la compilación no puede empezar" "the build cannot begin") ($log)"; }
     fi
-    compile "$log" "build/$preset" "$@"
+    compile "$log" --preset "$preset" ${1:+--target "$@"}
     exec {lock}>&-
 }

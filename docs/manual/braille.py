@@ -20,12 +20,15 @@ UNDERSCORE = "⠨⠤"
 
 
 def braille(lines):
-    done = subprocess.run(["lou_translate", "--forward", TABLES], stdout=subprocess.PIPE, encoding="utf-8", check=True,
-                          input="".join(line.replace("_", UNDERSCORE) + "\n" for line in lines)).stdout.splitlines()
-    for line, dots in zip(lines, done, strict=True):
-        if not dots.isascii():
-            sys.exit(f"there is a character that Spanish braille has not: {line}")
-    return done
+    text = "".join(line.replace("\\", "\\\\").replace("_", UNDERSCORE) + "\n" for line in lines)
+    done = subprocess.run(["lou_translate", "--forward", TABLES], input=text, capture_output=True, encoding="utf-8", check=True)
+    all_dots = done.stdout.splitlines()
+    if done.stderr or len(all_dots) != len(lines):
+        sys.exit(f"lou_translate has not translated each line: {done.stderr}")
+    for line, dots in zip(lines, all_dots):
+        if not dots.isascii() or any(len(word) > CELLS - 4 for word in dots.split()):
+            sys.exit(f"there is a word that is too long, or a character that Spanish braille has not: {line}")
+    return all_dots
 
 
 def number(page):
@@ -35,7 +38,7 @@ def number(page):
 def paragraphs_of(text):
     """Whether each is a heading, and its lines."""
     text = [line for line in text.splitlines() if line.strip()]
-    kinds = [re.match(r"(?P<heading>\d+\.)|(?P<item>- +)|(?P<inside> +)|", line).lastgroup for line in text]
+    kinds = [re.match(r"(?P<heading>\d+\.(?:\d+\.)? (?! ))|(?P<item>- +)|(?P<inside> +)|", line).lastgroup for line in text]
     indents = {"heading": ("", ""), "item": ("", "  "), "inside": ("    ", "  ")}
     for kind, line in zip(kinds, braille([re.sub(r"^(- +| +)", "", line) for line in text])):
         first, other = indents.get(kind, ("  ", ""))
@@ -66,10 +69,13 @@ def entry(lines, page):
 
 
 (_, title), *body = paragraphs_of(pathlib.Path(sys.argv[1]).read_text())
-before = pages = []
-while not pages or headings[0][1] != len(before) + 1:  # until the contents take as many pages as have been counted
-    pages, headings = pages_of(body, len(before) + 1)
+before = []
+while True:  # until the contents take as many pages as have been counted
+    counted = len(before)
+    pages, headings = pages_of(body, counted + 1)
     before, _ = pages_of([(False, title)] + [(False, entry(*heading)) for heading in headings], 1)
+    if len(before) == counted:
+        break
 with open(sys.argv[2], "w", newline="") as written:
     for place, page in enumerate(before + pages, 1):
         lines = [number(place).rjust(CELLS)] + page + [""] * (LINES - 1 - len(page))

@@ -213,5 +213,48 @@ class Installed(unittest.TestCase):
         self.assertEqual(program.wait(LIMIT), 0)
 
 
+class Braille(unittest.TestCase):
+    """Texts of small letters, which stand for themselves in a BRF, as capitals."""
+
+    def translated(self, text, is_refused=False):
+        folder = pathlib.Path(tempfile.mkdtemp(prefix="kelvora-"))
+        self.addCleanup(shutil.rmtree, folder)
+        (folder / "text").write_text(text)
+        done = subprocess.run([SOURCE / "docs/manual/braille.py", folder / "text", folder / "brf"], stdout=subprocess.PIPE,
+                              stderr=subprocess.STDOUT, text=True, timeout=60)
+        self.assertEqual(done.returncode != 0, is_refused, done.stdout)
+        return done.stdout if is_refused else (folder / "brf").read_bytes().decode("ascii").replace("\r\n", "\n")
+
+    def test_no_word_is_lost_and_each_heading_is_on_its_page(self):
+        letters = "abcdefghij"
+        for length in range(0, 450, 8):
+            words = ["".join(letters[int(digit)] for digit in str(number)) for number in range(1, length + 2)]
+            pages = self.translated(f"titulo\n\n{' '.join(words)}\n\n1. uno\n\n{' '.join(words)}\n\n1.1. otro\n\n- {' '.join(words)}\n"
+                                    f"\n    dentro\n").split("\f")[:-1]
+            contents = dict(re.findall(r"(?m)^\S+ (UNO|OTRO) +(#[A-J]+)$", pages[0]))
+            self.assertIn("TITULO", pages[0])
+            for page in pages[1:]:
+                number, text = page.split("\n", 1)
+                for heading in re.findall(r"(?m)^#A'(?:#?A')? (UNO|OTRO)$", text):
+                    self.assertEqual(contents.pop(heading), number.strip())
+                    self.assertNotRegex(text, rf"{heading}\n*$")  # it is not left behind
+            self.assertEqual(contents, {})
+            said = " ".join(page.split("\n", 1)[1] for page in pages[1:]).split()
+            expected = [word.upper() for word in words]
+            said = [word for word in said if not word.startswith("#")]
+            self.assertEqual(said, expected + ["UNO"] + expected + ["OTRO"] + expected + ["DENTRO"])
+
+    def test_what_belongs_together_is_seen_by_its_margin(self):
+        page = self.translated("titulo\n\n1. uno\n\n" + "parrafo " * 6 + "\n\n- " + "elemento " * 5 + "\n\n    " + "dentro " * 6).split("\f")[1]
+        self.assertEqual(page.rstrip("\n").split("\n")[1:], [
+            "#A' UNO", "  PARRAFO PARRAFO PARRAFO PARRAFO", "PARRAFO PARRAFO", "ELEMENTO ELEMENTO ELEMENTO ELEMENTO", "  ELEMENTO",
+            "    DENTRO DENTRO DENTRO DENTRO DENTRO", "  DENTRO"])
+
+    def test_what_braille_cannot_show_is_no_braille(self):
+        for text in "una \N{SNOWMAN}", "palabra" * 6:
+            self.assertIn(text, self.translated(f"titulo\n\n1. uno\n\n{text}\n", is_refused=True))
+        self.assertIn("UNA", self.translated("titulo\n\n1. uno\n\nuna C:\\Kelvora\n"))
+
+
 if __name__ == "__main__":
     unittest.main(verbosity=2)

@@ -28,12 +28,12 @@ class Steps(unittest.TestCase):
         self.calls = folder / "calls"
         self.env = {"PATH": f"{folder / 'tools'}:{os.environ['PATH']}", "HOME": str(folder), "LC_ALL": "C.UTF-8",
                     "LIBRARIES": os.path.relpath(self.libraries, "/usr/lib"), "CALLS": str(self.calls),
-                    "VERSION_OF_SOURCES": "1"}
+                    "VERSION_OF_SOURCES": "1", "KELVORA_INSIDE": "yes"}
 
     def run_script(self, **more):
         """Runs the script's part inside the system, and tells what it prints and which tools it calls."""
         self.calls.write_text("")
-        done = subprocess.run(["script/portable", "inside"], cwd=self.tree, env=self.env | more, stdin=subprocess.DEVNULL,
+        done = subprocess.run(["script/portable"], cwd=self.tree, env=self.env | more, stdin=subprocess.DEVNULL,
                               stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True, timeout=120)
         self.assertEqual(done.returncode == 0, not {"FAILING", "NEEDED"} & set(more), done.stdout)
         return done.stdout, self.calls.read_text()

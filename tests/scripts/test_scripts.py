@@ -28,10 +28,11 @@ class Scripts(unittest.TestCase):
         self.tree = folder / "tree"
         shutil.copytree(SOURCE, self.tree, ignore=shutil.ignore_patterns("build", ".git"))
         (folder / "tools").mkdir()
-        for name in "apt-get", "ccache", "cmake", "dpkg-query", "sudo", "xwininfo":
+        self.calls = folder / "calls"
+        for name in "apt-get", "ccache", "cmake", "dpkg-query", "id", "sudo", "xwininfo":
             (folder / "tools" / name).symlink_to(SOURCE / "tests/scripts/pretend")
         self.env = {"PATH": f"{folder / 'tools'}:{os.environ['PATH']}", "HOME": str(folder), "LC_ALL": "C.UTF-8",
-                    "DISPLAY": ":pretended", "TMPDIR": str(folder)}
+                    "DISPLAY": ":pretended", "TMPDIR": str(folder), "CALLS": str(self.calls)}
 
     def called(self, call, status=0, **more):
         """What a script says, with the time of day left out."""
@@ -57,7 +58,7 @@ class Scripts(unittest.TestCase):
     def test_asked_for_help_a_script_says_what_it_is_for(self):
         for name in set(REFUSED) - FOR_USERS:
             with self.subTest(name):
-                said = self.called(f"script/{name} --help")
+                said = self.called(f"../tree/script/{name} --help")
                 self.assertGreater(len(said.split()), 7, said)
                 self.assertNotRegex(said, r"(?m)^#|set -|import ")
 
@@ -66,12 +67,25 @@ class Scripts(unittest.TestCase):
         lines = said.splitlines()
         self.assertRegex(lines[0], r"^\[\] Faltan paquetes: g\+\+ cmake .*qt6-base-dev")
         self.assertRegex(lines[1], r"^\[\] Por descargar: 123 MB \(/.*\)$")
-        self.assertIn("[] Descargado e instalado: 50 de 100", lines)
-        self.assertIn("[] Descargado e instalado: 100 de 100", lines)
+        self.assertIn("[] Descargado e instalado, en %: 50 de 100", lines)
+        self.assertIn("[] Descargado e instalado, en %: 100 de 100", lines)
         self.assertRegex(said, r"Se compila por primera vez: de uno a diez minutos \(build/release\.log\)")
         self.assertEqual(said.count("Compilado: "), 10, said)
         self.assertIn("[] Compilado: 40 de 40\n", said)
-        self.assertEqual(lines[-1], "It opens.")
+        self.assertEqual(lines[-2:], ["[] Kelvora se abre", "It opens."])
+
+    def test_what_is_missing_is_installed_as_root_without_a_question(self):
+        self.called("script/run")
+        update, install, *_ = (call for call in self.calls.read_text().splitlines() if call.startswith("sudo "))
+        self.assertEqual(update, "sudo apt-get update")
+        for word in "DEBIAN_FRONTEND=noninteractive", "-y", "--no-install-recommends", "install", "g++", "cmake", "at-spi2-core":
+            self.assertIn(word, install.split())
+
+    def test_only_what_is_asked_for_is_built(self):
+        self.called("script/fuzz 1", status=1, INSTALLED="yes")  # there is nothing to be run then
+        self.assertIn("\ncmake --build --preset fuzz\n", self.calls.read_text())
+        self.called("script/exercises", status=127, INSTALLED="yes")
+        self.assertIn("\ncmake --build --preset tests --target exercises\n", self.calls.read_text())
 
     def test_a_second_start_says_only_that_the_program_is_built_and_opens(self):
         self.called("script/run")
@@ -99,6 +113,7 @@ class Scripts(unittest.TestCase):
     def test_what_the_system_objects_to_is_said_in_its_own_words(self):
         said = self.called("script/run", status=1, REASON="Unable to fetch: no space left")
         self.assertIn("\nE: Unable to fetch: no space left\nkelvora: no se ha podido instalar: g++ cmake", said)
+        self.assertIn("\nE: held\n qt : Depends: another\nkelvora: ", self.called("script/run", status=1, UNMET="another"))
         self.assertNotIn("after it", said)
         said = self.called("script/lint format", status=1, REASON="You must be somebody else")
         self.assertIn("\nE: You must be somebody else\nkelvora: could not install: clang-format", said)
