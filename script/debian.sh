@@ -8,7 +8,7 @@ new_debian() {
     shift 2
     kept=$cache/debian/$suite-$(echo "${DEBIAN_MIRROR:-} $*" | sha256sum | cut -c1-12)
     mkdir -p "$cache/debian" "$(dirname "$folder")"
-    exec {lock}>"$kept.lock" && flock "$lock" || fail "cannot write to $cache"
+    exec {lock}>"$kept.lock" && hold "$lock" || fail "cannot write to $cache"
     if [ -z "$(find "$kept" -maxdepth 0 -mtime -7 2>/dev/null)" ]; then
         find "$cache/debian" -mindepth 1 -maxdepth 1 -mtime +7 -exec rm -rf --one-file-system {} +
         rm -rf --one-file-system "$kept" "$kept.new"

@@ -83,6 +83,13 @@ as_root() {
     if [ "$(id -u)" -eq 0 ]; then "$@"; else sudo "$@"; fi
 }
 
+# hold DESCRIPTOR: waits until no other script holds the file that is open there, and holds it.
+hold() {
+    flock --nonblock "$1" && return
+    step "$(says 'Hay que esperar a otro script' 'Another script has to end first')"
+    flock "$1"
+}
+
 # apt_install LOG ARGUMENT...: has apt-get install what its arguments say, and tells how much that is.
 apt_install() {
     local log=$1 apt=(env DEBIAN_FRONTEND=noninteractive apt-get -y --no-install-recommends -o APT::Status-Fd=1) uris megabytes kind percent
@@ -108,7 +115,7 @@ objections() { grep -E '^([EW]: |dpkg[a-z-]*: error)|^ .* : (Depends|Conflicts):
 need() {
     command -v dpkg-query >/dev/null || fail "$(says "este programa instala sus dependencias solo en Debian 12 o posterior" "packages are installed on Debian 12 or later only")"
     local missing=() package log lock
-    exec {lock}</var/lib/dpkg && flock "$lock" || fail "$(says "no se puede leer" "cannot read") /var/lib/dpkg"
+    exec {lock}</var/lib/dpkg && hold "$lock" || fail "$(says "no se puede leer" "cannot read") /var/lib/dpkg"
     for package in "$@"; do
         is_installed "$package" || missing+=("$package")
     done
@@ -146,7 +153,7 @@ build() {
     local preset=$1 log=build/$1.log lock
     shift
     mkdir -p build
-    exec {lock}>"build/$preset.lock" && flock "$lock" || fail "$(says "no se puede escribir en" "cannot write to") build"
+    exec {lock}>"build/$preset.lock" && hold "$lock" || fail "$(says "no se puede escribir en" "cannot write to") build"
     if command -v ccache >/dev/null; then
         export CMAKE_CXX_COMPILER_LAUNCHER=ccache CCACHE_DIR=$cache/ccache CCACHE_BASEDIR=$PWD CCACHE_NOHASHDIR=1
     fi

@@ -1,5 +1,6 @@
 """What the scripts say: of what takes long, of what goes wrong and of how they are called. Their tools only pretend."""
 
+import fcntl
 import os
 import pathlib
 import pty
@@ -92,6 +93,16 @@ class Scripts(unittest.TestCase):
         said = self.called("script/run", INSTALLED="yes")
         self.assertNotRegex(said, "(?i)paquete|descarga|primera vez")
         self.assertIn("It opens.", said)
+
+    def test_who_waits_for_another_script_says_so(self):
+        (self.tree / "build").mkdir()
+        with open(self.tree / "build/release.lock", "w") as lock:
+            fcntl.flock(lock, fcntl.LOCK_EX)
+            script = subprocess.Popen(["script/run"], cwd=self.tree, env=self.env | {"INSTALLED": "yes"}, stdin=subprocess.DEVNULL,
+                                      stdout=subprocess.PIPE, text=True)
+            said = script.stdout.readline()
+        self.assertIn("It opens.", script.communicate(timeout=120)[0])
+        self.assertRegex(said, r"^\[[\d:]+\] Hay que esperar a otro script\n$")
 
     def test_on_a_terminal_the_progress_of_the_build_stays_in_its_line(self):
         master, terminal = pty.openpty()
