@@ -114,8 +114,8 @@ objections() { grep -E '^([EW]: |dpkg[a-z-]*: error)|^ .* : (Depends|Conflicts):
 # need PACKAGE...: installs what is missing of Debian's packages. Scripts beside each other do so one after another.
 need() {
     command -v dpkg-query >/dev/null || fail "$(says "este programa instala sus dependencias solo en Debian 12 o posterior" "packages are installed on Debian 12 or later only")"
-    local missing=() package log lock
-    exec {lock}</var/lib/dpkg && hold "$lock" || fail "$(says "no se puede leer" "cannot read") /var/lib/dpkg"
+    local missing=() package log lock administration=${DPKG_ADMINDIR:-/var/lib/dpkg}
+    exec {lock}<"$administration" && hold "$lock" || fail "$(says "no se puede leer" "cannot read") $administration"
     for package in "$@"; do
         is_installed "$package" || missing+=("$package")
     done

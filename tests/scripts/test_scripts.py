@@ -33,7 +33,8 @@ class Scripts(unittest.TestCase):
         for name in "apt-get", "ccache", "cmake", "dpkg-query", "id", "sudo", "xwininfo":
             (folder / "tools" / name).symlink_to(SOURCE / "tests/scripts/pretend")
         self.env = {"PATH": f"{folder / 'tools'}:{os.environ['PATH']}", "HOME": str(folder), "LC_ALL": "C.UTF-8",
-                    "DISPLAY": ":pretended", "TMPDIR": str(folder), "CALLS": str(self.calls)}
+                    "DISPLAY": ":pretended", "TMPDIR": str(folder), "CALLS": str(self.calls),
+                    "DPKG_ADMINDIR": str(folder)}  # another test or script may hold the machine's own
 
     def called(self, call, status=0, **more):
         """What a script says, with the time of day left out."""
