@@ -39,6 +39,7 @@ progress() {
     while read -r so_far all; do
         [[ $so_far =~ ^[0-9]+$ && $all =~ ^[1-9][0-9]*$ ]] || continue
         if [ -t 1 ]; then
+            [ "$line" != "$1: $so_far $(says de of) $all" ] || continue # a screen reader would say it again
             line="$1: $so_far $(says de of) $all"
             printf '\r%s\e[K' "$line"
         elif [ $((10 * so_far / all)) -ne "$last" ]; then
@@ -96,7 +97,7 @@ apt_install() {
     shift
     as_root apt-get update >"$log" 2>&1 </dev/null && uris=$("${apt[@]}" --print-uris "$@" 2>>"$log" </dev/null) ||
         { echo "$uris" >>"$log"; objections "$log"; return 1; }
-    megabytes=$(awk "/^'/ { bytes += \$(NF - 1) } END { print int(bytes / 1e6) + 1 }" <<<"$uris")
+    megabytes=$(awk "/^'/ { bytes += \$(NF - 1) } END { print int((bytes + 999999) / 1e6) }" <<<"$uris")
     step "$(says 'Por descargar' 'To download'): $megabytes MB ($log)"
     as_root "${apt[@]}" "$@" 2>&1 </dev/null | tee -p -a "$log" |
         while IFS=: read -r kind _ percent _; do
@@ -138,14 +139,17 @@ test_packages=(ccache qt6-base-private-dev strace xvfb openbox xdotool dbus-daem
     pandoc librsvg2-bin weasyprint liblouis-bin poppler-utils desktop-file-utils appstream tidy man-db libbenchmark-dev libicu-dev
     faketime x11-xserver-utils mutter qt6-wayland valgrind xz-utils)
 
-# compile LOG ARGUMENT...: has CMake build what its arguments say; what it says is added to the log.
-compile() {
+# tells LOG COMMAND...: runs a command that builds with Ninja and tells how far it is; what it says is added to the log.
+tells() {
     local log=$1
     shift
-    NINJA_STATUS='[%f/%t] ' cmake --build "$@" 2>&1 </dev/null | tee -p -a "$log" |
+    NINJA_STATUS='[%f/%t] ' "$@" 2>&1 </dev/null | tee -p -a "$log" |
         sed -u -n 's|^\[\([1-9][0-9]*\)/\([0-9]*\)\].*|\1 \2|p' | progress "$(says Compilado Compiled)"
-    [ "${PIPESTATUS[0]}" -eq 0 ] || { tail -n 40 "$log" >&2; fail "$(says "la compilación ha fallado" "the build has failed") ($log)"; }
+    [ "${PIPESTATUS[0]}" -eq 0 ] || { tail -n 40 "$log" >&2; return 1; }
 }
+
+# compile LOG ARGUMENT...: has CMake build what its arguments say.
+compile() { tells "$1" cmake --build "${@:2}" || fail "$(says "la compilación ha fallado" "the build has failed") ($1)"; }
 
 # build PRESET [TARGET...]: configures what is not, and builds what is not up to date. What has been compiled once is not
 # compiled again, in whatever folder the tree lies, where there is ccache.

@@ -176,12 +176,41 @@ class Installed(unittest.TestCase):
         # A line of a paragraph may begin with a number, too.
         self.assertGreaterEqual(len(re.findall(r"(?m)^#[A-J]+'(?:#?[A-J]+')? ", text)), 2 * len(headings))
 
-    def test_the_portable_edition_enters_the_menu_and_leaves_it(self):
-        folder = self.root.parent / 'Kelvora de "Ñ" por $5 al 100%u en `C:\\`'  # all that means something in a menu entry
-        home = self.root.parent / "home"
+    def portable(self, name):
+        """A folder of this name as the portable edition is, but for its program."""
+        folder = self.root.parent / name
         shutil.copytree(self.share, folder / "share")
         for script in (SOURCE / "data/portable").iterdir():
             shutil.copy(script, folder)
+        return folder
+
+    def test_the_portable_edition_enters_the_menu_of_all_and_leaves_it(self):
+        folder, menu = self.portable("of all"), self.root.parent / "menu of all"
+        menu.mkdir()
+        entry = menu / f"applications/{ID}.desktop"
+        # There /usr/local/share is another folder; who is not root is it in a namespace.
+        there = ["unshare", "--mount", *(["--map-root-user"] if os.getuid() else []),
+                 "sh", "-c", 'mount --bind "$0" /usr/local/share && exec "$@"', menu]
+        self.assertEqual(output(*there, folder / "instalar", "todos"), "Kelvora está en el menú de aplicaciones.\n")
+        self.assertIn(f'\nExec=env "{folder}/kelvora"\n', entry.read_text())
+        self.assertEqual(output(*there, folder / "desinstalar", "todos"), "Kelvora ya no está en el menú de aplicaciones.\n")
+        self.assertEqual([path for path in menu.rglob("*") if path.is_file()], [])
+
+    def test_the_portable_edition_says_why_a_menu_stays_as_it_is(self):
+        folder, home = self.portable("refused"), self.root.parent / "a home"
+        (home / f"applications/{ID}.desktop").mkdir(parents=True)  # which rm does not remove
+        (home / "icons").write_text("")
+        for call, reason in {"instalar": f"No se puede escribir en {home}.",
+                             "desinstalar": f"No se puede borrar en {home}.",
+                             "instalar nadie": "instalar no admite nadie: va solo o con «todos».",
+                             "desinstalar nadie": "desinstalar no admite nadie: va solo o con «todos»."}.items():
+            script, *words = call.split()
+            done = subprocess.run([folder / script, *words], env=os.environ | {"XDG_DATA_HOME": str(home)}, capture_output=True, text=True)
+            self.assertEqual((done.returncode, done.stdout, done.stderr.splitlines()[-1]), (1, "", reason))
+
+    def test_the_portable_edition_enters_the_menu_and_leaves_it(self):
+        folder = self.portable('Kelvora de "Ñ" por $5 al 100%u en `C:\\`')  # all that means something in a menu entry
+        home = self.root.parent / "home"
         (folder / "kelvora").write_text(f'#!/bin/sh\necho started >"{home}/started"\n')
         (folder / "kelvora").chmod(0o755)
         environment = os.environ | {"XDG_DATA_HOME": str(home)}

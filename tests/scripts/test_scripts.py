@@ -30,7 +30,7 @@ class Scripts(unittest.TestCase):
         shutil.copytree(SOURCE, self.tree, ignore=shutil.ignore_patterns("build", ".git"))
         (folder / "tools").mkdir()
         self.calls = folder / "calls"
-        for name in "apt-get", "ccache", "cmake", "dpkg-query", "id", "sudo", "xwininfo":
+        for name in "apt-get", "ccache", "cmake", "dpkg-buildpackage", "dpkg-checkbuilddeps", "dpkg-query", "id", "sudo", "xwininfo":
             (folder / "tools" / name).symlink_to(SOURCE / "tests/scripts/pretend")
         self.env = {"PATH": f"{folder / 'tools'}:{os.environ['PATH']}", "HOME": str(folder), "LC_ALL": "C.UTF-8",
                     "DISPLAY": ":pretended", "TMPDIR": str(folder), "CALLS": str(self.calls),
@@ -68,7 +68,7 @@ class Scripts(unittest.TestCase):
         said = self.called("script/run")
         lines = said.splitlines()
         self.assertRegex(lines[0], r"^\[\] Faltan paquetes: g\+\+ cmake .*qt6-base-dev")
-        self.assertRegex(lines[1], r"^\[\] Por descargar: 123 MB \(/.*\)$")
+        self.assertRegex(lines[1], r"^\[\] Por descargar: 122 MB \(/.*\)$")
         self.assertIn("[] Descargado e instalado, en %: 50 de 100", lines)
         self.assertIn("[] Descargado e instalado, en %: 100 de 100", lines)
         self.assertRegex(said, r"Se compila por primera vez: de uno a diez minutos \(build/release\.log\)")
@@ -105,10 +105,10 @@ class Scripts(unittest.TestCase):
         self.assertIn("It opens.", script.communicate(timeout=120)[0])
         self.assertRegex(said, r"^\[[\d:]+\] Hay que esperar a otro script\n$")
 
-    def test_on_a_terminal_the_progress_of_the_build_stays_in_its_line(self):
+    def test_on_a_terminal_progress_stays_in_its_line_and_tells_a_number_once(self):
         master, terminal = pty.openpty()
         with open(master, "rb", buffering=0) as said:
-            with subprocess.Popen(["script/run"], cwd=self.tree, env=self.env | {"INSTALLED": "yes"}, stdin=subprocess.DEVNULL,
+            with subprocess.Popen(["script/run"], cwd=self.tree, env=self.env, stdin=subprocess.DEVNULL,
                                   stdout=terminal, stderr=terminal) as script:
                 os.close(terminal)
                 text = b""
@@ -118,9 +118,9 @@ class Scripts(unittest.TestCase):
                     except OSError:  # the other end is closed
                         break
             self.assertEqual(script.returncode, 0, text)
-        lines = [line for line in text.decode().split("\r\n") if "Compilado" in line]
-        self.assertEqual(len(lines), 1, text)
-        self.assertEqual(re.findall(r"\rCompilado: (\d+) de 40", lines[0]), [str(number) for number in range(1, 41)])
+        for what, all_of, numbers in (("Descargado e instalado, en %", 100, [0, 15, 27, 50, 60, 80, 100]), ("Compilado", 40, range(1, 41))):
+            line, *_ = (line for line in text.decode().split("\r\n") if what in line)
+            self.assertEqual(re.findall(rf"\r{what}: (\d+) de {all_of}", line), [str(number) for number in numbers])
 
     def test_what_the_system_objects_to_is_said_in_its_own_words(self):
         said = self.called("script/run", status=1, REASON="Unable to fetch: no space left")
@@ -134,3 +134,10 @@ class Scripts(unittest.TestCase):
         said = self.called("script/run", status=1, INSTALLED="yes", BROKEN="yes")
         self.assertIn("error: what is this", said)
         self.assertTrue(said.endswith("\nkelvora: la compilación ha fallado (build/release.log)\n"), said)
+
+    def test_the_build_of_a_package_says_how_far_it_is_and_what_the_compiler_objects_to(self):
+        said = self.called("script/package", status=1, INSTALLED="yes")  # there is no package then
+        self.assertIn("\n[] Compilado: 40 de 40\n", said)
+        said = self.called("script/package", status=1, INSTALLED="yes", BROKEN="yes")
+        self.assertIn("error: what is this", said)
+        self.assertRegex(said, r"kelvora: no se ha podido construir el paquete \(/.*/build\.log\)\n$")
