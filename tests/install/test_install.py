@@ -1,5 +1,6 @@
 """What is installed, out of the archive that runs from any folder: the program, what the desktop knows of it, the manuals."""
 
+import collections
 import configparser
 import html.parser
 import os
@@ -123,6 +124,11 @@ class Installed(unittest.TestCase):
                                 encoding="latin-1").count("warning"), 0)
         self.assertIn(f"Kelvora {os.environ['VERSION']}", page.read_text())
 
+    def test_the_manual_page_says_where_the_manual_is(self):
+        page = output("man", "-E", "UTF-8", "-l", self.share / "man/man1/kelvora.1", env=os.environ | {"MANWIDTH": "80", "MANPAGER": "cat"})
+        for name in "index.html", "manual.pdf":
+            self.assertIn(f"{os.environ['DOCDIR']}/manual/{name}", page)
+
     def test_the_manual_can_be_read_without_eyes_and_without_a_network(self):
         folder = self.share / "doc/kelvora/manual"
         page = Page(folder / "index.html")
@@ -153,9 +159,11 @@ class Installed(unittest.TestCase):
         self.assertEqual(words - set(re.findall(r"\w+", paper)), set())
         about = dict(re.findall(r"(?m)^(\w+): +(.*)$", output("pdfinfo", folder / "manual.pdf")))
         self.assertEqual((about["Title"], about["Tagged"]), ("Manual de Kelvora", "yes"))
-        keys, = (text for text in paper.split("\f") if text.startswith("Las teclas de un vistazo"))
-        for first_and_last in "Tab, Mayús+Tab", "Espacio representación gráfica":
-            self.assertIn(first_and_last, keys)
+        begin = texts.index(("h2", "Las teclas de un vistazo"))
+        end = next(i for i in range(begin + 1, len(texts)) if texts[i][0] == "h2")
+        keys, = (text for text in paper.split("\f") if text.startswith(texts[begin][1]))
+        self.assertEqual(collections.Counter(word for _, text in texts[begin:end] for word in re.findall(r"\w+", text)) -
+                         collections.Counter(re.findall(r"\w+", keys)), collections.Counter())
 
     def test_the_braille_fits_on_its_pages_and_its_contents_lead_to_them(self):
         folder = self.share / "doc/kelvora/manual"
