@@ -1,6 +1,7 @@
 """What the scripts say: of what takes long, of what goes wrong and of how they are called. Their tools only pretend."""
 
 import fcntl
+import json
 import os
 import pathlib
 import pty
@@ -30,7 +31,7 @@ class Scripts(unittest.TestCase):
         shutil.copytree(SOURCE, self.tree, ignore=shutil.ignore_patterns("build", ".git"))
         (folder / "tools").mkdir()
         self.calls = folder / "calls"
-        for name in "apt-get", "ccache", "cmake", "dpkg-buildpackage", "dpkg-checkbuilddeps", "dpkg-query", "id", "sudo", "xwininfo":
+        for name in "apt-get", "ccache", "clang++", "clang-tidy-22", "cmake", "dpkg-buildpackage", "dpkg-checkbuilddeps", "dpkg-query", "id", "sudo", "xwininfo":
             (folder / "tools" / name).symlink_to(SOURCE / "tests/scripts/pretend")
         self.env = {"PATH": f"{folder / 'tools'}:{os.environ['PATH']}", "HOME": str(folder), "LC_ALL": "C.UTF-8",
                     "DISPLAY": ":pretended", "TMPDIR": str(folder), "CALLS": str(self.calls),
@@ -141,3 +142,23 @@ class Scripts(unittest.TestCase):
         said = self.called("script/package", status=1, INSTALLED="yes", BROKEN="yes")
         self.assertIn("error: what is this", said)
         self.assertRegex(said, r"kelvora: no se ha podido construir el paquete \(/.*/build\.log\)\n$")
+
+    def test_clang_tidy_looks_again_at_what_has_changed_and_leaves_the_build_alone(self):
+        build, source = self.tree / "build", self.tree / "one.cpp"
+        build.mkdir()
+        (build / "one.o").write_text("compiled")
+        (build / "compile_commands.json").write_text(json.dumps(
+            [{"directory": str(build), "file": str(source), "command": f"c++ -Wall -o one.o -c {source}"}]))
+
+        def looks():
+            return self.calls.read_text().count("clang-tidy-22 -p build --quiet")
+
+        source.write_text("int one;")
+        self.assertEqual(self.called("script/tidy build kept"), "1 1\n")
+        self.assertEqual(looks(), 1)
+        self.called("script/tidy build kept")
+        self.assertEqual(looks(), 1)
+        source.write_text("int wrong;")
+        self.assertIn("int wrong;", self.called("script/tidy build kept", status=1))
+        self.assertEqual(looks(), 2)
+        self.assertEqual((build / "one.o").read_text(), "compiled")
