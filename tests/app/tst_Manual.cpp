@@ -185,7 +185,7 @@ constexpr std::array effects{
            }},
     Effect{"Dice el marcador\\.",
            [](const Outcome& outcome, const QString&) { return outcome.heard.join(' ').startsWith("Ejercicios:"); }},
-    Effect{"(Hecho[:.]|(En una casilla c|C)orrige)",
+    Effect{"(Hecho[:.]|En una casilla corrige|Corrige)",
            [](const Outcome& outcome, const QString&) { return !outcome.heard.filter("correct").isEmpty(); }},
     Effect{"(Pide|Piden)\\b", [](const Outcome& outcome, const QString&) { return outcome.hasBox; }},
     Effect{"Abre las opciones\\b", [](const Outcome& outcome, const QString&) { return outcome.hasMenu; }},
@@ -215,10 +215,8 @@ constexpr std::array effects{
 // The screens that a cell names, by a word of their captions, or all but those.
 QList<const app::Pantalla*> Screens(QString cell)
 {
-    static const QMap<QString, QString> others{{"factores primos", "factores"},
-                                               {"fichas", "Expresa"},
-                                               {"expresa con fracciones", "Expresa"},
-                                               {"series", "serie"}};
+    static const QMap<QString, QString> others{
+        {"factores primos", "factores"}, {"expresa con fracciones", "Expresa"}, {"series", "serie"}};
     const bool isAllBut = cell.startsWith("todos, menos ");
     cell.remove("todos, menos ").replace(" y ", ", ");
     QList<const app::Pantalla*> screens;
@@ -255,8 +253,8 @@ private:
         for (const QString& told : m_ear->Take()) {
             if (told.startsWith("FOCUS ")) {
                 place = heard.size();
-            } else if (told.startsWith(
-                           "SAY partes coloreadas:")) { // newer readers have read the new name by themselves
+            } else if (told.startsWith("SAY partes coloreadas:")) {
+                // Newer readers have read the new name by themselves.
                 heard += Name(Focus()) + "; " + told.mid(4);
             } else if (told != "BEEP") { // which not every desktop can do
                 heard += told.mid(told.indexOf(' ') + 1).simplified();
