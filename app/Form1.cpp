@@ -14,7 +14,7 @@ constexpr int salir = pantallas.size();
 
 constexpr auto controles = [] {
     std::array<ui::ControlDesign, pantallas.size() + 1> buttons;
-    for (int i = 0; i < std::ssize(buttons); ++i) {
+    for (int i = 0; i <= salir; ++i) {
         buttons[i] = {.kind = ui::Kind::Button,
                       .name = "Command1",
                       .index = i,

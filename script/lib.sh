@@ -162,8 +162,9 @@ build() {
         export CMAKE_CXX_COMPILER_LAUNCHER=ccache CCACHE_DIR=$cache/ccache CCACHE_BASEDIR=$PWD CCACHE_NOHASHDIR=1
     fi
     : >"$log"
-    if [ ! -f "build/$preset/build.ninja" ]; then
+    [ -f "build/$preset/build.ninja" ] ||
         step "$(says 'Se compila por primera vez: de uno a diez minutos' 'Compiling for the first time: one to ten minutes') ($log)"
+    if ! [ "build/$preset/build.ninja" -nt CMakePresets.json ]; then
         cmake --preset "$preset" >"$log" 2>&1 || { tail -n 40 "$log" >&2; fail "$(says "la compilación no puede empezar" "the build cannot begin") ($log)"; }
     fi
     compile "$log" --preset "$preset" ${1:+--target "$@"}

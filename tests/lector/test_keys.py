@@ -10,7 +10,7 @@ import unittest
 from pupil import MENU, PROGRAM
 from session import SUPPORT, Session, wait_for
 
-ROUNDS = int(os.environ.get("KELVORA_ROUNDS", "20"))
+ROUNDS = max(1, int(os.environ.get("KELVORA_ROUNDS", "20")))
 
 
 class Keys(unittest.TestCase):

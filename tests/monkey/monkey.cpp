@@ -49,6 +49,9 @@ public:
         qInfo("%d windows, %d announcements, %d points, %d events in boxes", static_cast<int>(m_seen.size()), m_said,
               m_checks, m_boxes);
         constexpr int longWalk = 20'000;
+        if (m_events >= longWalk && std::min({m_said, m_checks, m_boxes}) == 0) {
+            Fail("nothing was told, counted or typed into");
+        }
         for (const support::Window& window : support::Windows()) {
             if (m_events >= longWalk && !m_seen.contains(window.name)) {
                 Fail(window.name + " was not seen");

@@ -94,6 +94,12 @@ class Steps(unittest.TestCase):
         said, _ = self.run_script(NEEDED="libz.so.1")
         self.assertIn("kelvora: the program needs a library: libz.so.1", said)
 
+    def test_a_program_that_cannot_be_read_is_none(self):
+        for tool in "objdump", "readelf":
+            with self.subTest(tool):
+                said, _ = self.run_script(FAILING=tool)
+                self.assertRegex(said, "(?m)^kelvora: cannot read /.*/kelvora$")
+
     def test_what_has_been_interrupted_goes_on(self):
         self.run_script(FAILING="patch")
         _, calls = self.run_script()

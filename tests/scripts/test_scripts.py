@@ -9,6 +9,7 @@ import re
 import shutil
 import subprocess
 import tempfile
+import time
 import unittest
 
 SOURCE = pathlib.Path(__file__).parents[2]
@@ -95,6 +96,15 @@ class Scripts(unittest.TestCase):
         said = self.called("script/run", INSTALLED="yes")
         self.assertNotRegex(said, "(?i)paquete|descarga|primera vez")
         self.assertIn("It opens.", said)
+
+    def test_a_newer_preset_is_configured_again(self):
+        self.called("script/run")
+        self.called("script/run", INSTALLED="yes")
+        configured = "\ncmake --preset release\n"
+        self.assertEqual(self.calls.read_text().count(configured), 1)
+        os.utime(self.tree / "CMakePresets.json", times=(time.time() + 9, time.time() + 9))
+        self.called("script/run", INSTALLED="yes")
+        self.assertEqual(self.calls.read_text().count(configured), 2)
 
     def test_who_waits_for_another_script_says_so(self):
         (self.tree / "build").mkdir()

@@ -4,6 +4,7 @@ never the dead menu that is in front.
 
 import os
 import pathlib
+import subprocess
 import sys
 import unittest
 
@@ -24,7 +25,7 @@ class Modal(unittest.TestCase):
         self.product = self.desktop.wait_window(PRODUCT)
 
     def do(self, action, window):
-        self.desktop.output("xdotool", action, window)
+        subprocess.run(["xdotool", action, window], env=self.desktop.env, check=True)
 
     def expect_it_in_front(self):
         """It is the window that gets the keys, and answers."""
