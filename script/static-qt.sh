@@ -3,6 +3,10 @@
 
 qt=$target/qt # where it is
 
+# The day of resources and of the PDF's fonts, instead of that on which their files have been checked out or made.
+SOURCE_DATE_EPOCH=$(date --date="$day UTC" +%s) || fail "CHANGELOG.md does not say which day it is"
+export SOURCE_DATE_EPOCH
+
 # run LOG COMMAND...: with all that it says in a log.
 run() {
     local log=$target/$1.log
